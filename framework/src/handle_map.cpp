@@ -1,0 +1,28 @@
+#include <afxrt/handle_map.h>
+
+namespace afx_internal {
+namespace {
+
+// The maps are thread-local themselves and register on construction, so this list is made
+// before the first of them and outlives them all.
+std::vector<TemporaryObjects*>& MapsOfThread() {
+    thread_local std::vector<TemporaryObjects*> maps;
+    return maps;
+}
+
+} // namespace
+
+TemporaryObjects::TemporaryObjects() {
+    MapsOfThread().push_back(this);
+}
+
+TemporaryObjects::~TemporaryObjects() {
+    std::erase(MapsOfThread(), this);
+}
+
+void DeleteTemporaryObjects() {
+    for (TemporaryObjects* map : MapsOfThread())
+        map->DeleteTemporaries();
+}
+
+} // namespace afx_internal

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Builds and runs the sample host. With a display its window opens; without one, or with
+# --tour, every conversation is opened, driven and confirmed, and a page shows them.
+#
+#   scripts/run.sh [--tour] [CODE-TABLE-FILE]
+set -euo pipefail
+# shellcheck source=setup.sh
+. "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+
+display=${DISPLAY:-}
+if [ "${1:-}" = --tour ]; then
+  display=
+  shift
+fi
+
+# The display's socket is there: a stale DISPLAY, as in a container, has none.
+display_answers() {
+  local number=${display##*:}
+  [ -n "$display" ] && { [ -S "/tmp/.X11-unix/X${number%%.*}" ] || [ -n "${display%%:*}" ]; }
+}
+
+display_answers || display=
+export CUADROS_DISPLAY=$display
+start
+build release
+
+ejemplo=build/release/bin/Ejemplo.exe
+if [ -n "$display" ]; then
+  say "Opening the sample host's window"
+  wine "$ejemplo" "$@"
+else
+  say "Touring the conversations, without a display"
+  rm -rf build/tour
+  wine "$ejemplo" --tour build/tour "$@" </dev/null
+  say "The page: build/tour/index.html"
+fi

@@ -12,4 +12,3 @@
 
 #define AFXAPI    __stdcall
 #define AFX_CDECL __cdecl
-#define AFX_MSG_CALL

@@ -1,0 +1,12 @@
+#include "cuadros/frame/Signo.h"
+
+namespace Cuadros {
+
+int Signo(double valor) {
+    constexpr double tolerancia = 1e-7;
+    if (valor < -tolerancia)
+        return -1;
+    return valor > tolerancia ? 1 : 0;
+}
+
+} // namespace Cuadros

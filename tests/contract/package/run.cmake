@@ -1,0 +1,28 @@
+# Installs the built project, moves the result elsewhere, and builds and runs a consumer of it:
+#   cmake -D BUILD=... -D WORK=... -D TOOLCHAIN=... -D EMULATOR=... -P run.cmake
+function(run)
+  execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+file(REMOVE_RECURSE ${WORK})
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
+file(RENAME ${WORK}/installed "${WORK}/moved elsewhere")
+
+foreach(name CuadrosENU CuadrosLOC CuadrosAfx Cotana Cuadros libstdc++-6)
+  if(NOT EXISTS "${WORK}/moved elsewhere/bin/${name}.dll")
+    message(FATAL_ERROR "${name}.dll is not installed")
+  endif()
+endforeach()
+file(GLOB_RECURSE written "${WORK}/moved elsewhere/*.cmake")
+foreach(file ${written})
+  file(READ ${file} text)
+  string(FIND "${text}" "${BUILD}" place)
+  if(NOT place EQUAL -1)
+    message(FATAL_ERROR "${file} names the folder in which it was built")
+  endif()
+endforeach()
+
+run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK}/consumer -G Ninja --toolchain
+    ${TOOLCHAIN} "-DCuadros_DIR=${WORK}/moved elsewhere/lib/cmake/Cuadros")
+run(${CMAKE_COMMAND} --build ${WORK}/consumer)
+run(${EMULATOR} ${WORK}/consumer/consumer.exe)

@@ -1,0 +1,4 @@
+// Every dialog of the library.
+#pragma once
+
+#include "cuadros/triangulation/TriangulacionDlg.h"

@@ -1,0 +1,10 @@
+#include "cuadros/frame/Ayuda.h"
+
+namespace Cuadros {
+
+void AbreAyuda(DWORD_PTR contexto) {
+    constexpr UINT abrirContexto = 0x000F; // HH_HELP_CONTEXT
+    AfxGetApp()->HtmlHelp(contexto, abrirContexto);
+}
+
+} // namespace Cuadros

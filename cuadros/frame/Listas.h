@@ -1,0 +1,56 @@
+// What the dialogs' report lists have in common: their columns, their filling, their selection.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <initializer_list>
+
+namespace Cuadros {
+
+/// One column of a report list.
+struct Columna {
+    UINT titulo; ///< number of the text of its heading
+    int ajuste;  ///< LVCFMT_LEFT, LVCFMT_RIGHT or LVCFMT_CENTER
+    int ancho;   ///< in pixels
+};
+
+/// Gives an empty list its columns, grid lines and the selection of whole rows.
+void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas);
+
+/// Inserts a row with its text in the first column.
+///
+/// @param texto cut to 259 characters where it is longer.
+/// @return the index that the row has in the list.
+int InsertaFila(CListCtrl& lista, int indice, const CString& texto);
+
+/// While one of these lives its list is not drawn: a row inserted into a list that draws itself
+/// costs a thousand times as much. One at a time for each list.
+class ListaSinDibujar {
+public:
+    explicit ListaSinDibujar(CListCtrl& lista);
+    ~ListaSinDibujar();
+    ListaSinDibujar(const ListaSinDibujar&) = delete;
+    ListaSinDibujar& operator=(const ListaSinDibujar&) = delete;
+
+private:
+    CListCtrl& m_Lista;
+};
+
+/// Selects every one of the first `filas` rows of a list, or none of them, row by row.
+void SeleccionaFilas(CListCtrl& lista, unsigned int filas, bool seleccionadas);
+
+/// Whether a list has a selected row.
+bool HaySeleccion(const CListCtrl& lista);
+
+/// Calls `visita(i)` for each selected row i of a list below `filas`, in increasing order.
+template <class Visita>
+void RecorreSeleccion(const CListCtrl& lista, unsigned int filas, Visita visita) {
+    for (int i = lista.GetNextItem(-1, LVNI_SELECTED); i >= 0;
+         i = lista.GetNextItem(i, LVNI_SELECTED)) {
+        if (static_cast<unsigned int>(i) >= filas)
+            return;
+        visita(static_cast<unsigned int>(i));
+    }
+}
+
+} // namespace Cuadros

@@ -1,0 +1,40 @@
+#include "cuadros/frame/PideFichero.h"
+
+#include <commdlg.h>
+
+#include <cotana/aplicacion/Aplicacion.h>
+
+#include "cuadros/resources/StringIds.h"
+
+namespace Cuadros {
+
+namespace {
+
+constexpr DWORD OpcionesAbrir = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
+constexpr DWORD OpcionesGuardar = OFN_CREATEPROMPT | OFN_OVERWRITEPROMPT;
+constexpr DWORD OpcionesVarios = OpcionesAbrir | OFN_EXPLORER | OFN_ALLOWMULTISELECT;
+
+BOOL PideFichero(CString& nombre, DWORD opciones, BOOL abrir, CDocTemplate** plantilla, int clase) {
+    auto* const aplicacion = dynamic_cast<Cotana::CAplicacion*>(AfxGetApp());
+    if (aplicacion == nullptr)
+        return FALSE;
+    // Kept: the host is handed the title of opening also where it saves.
+    return aplicacion->PideFichero(nombre, IDS_TITULO_ABRIR, opciones, abrir, plantilla, clase,
+                                   nullptr);
+}
+
+} // namespace
+
+BOOL PideFicheroAbrir(CString& nombre, CDocTemplate** plantilla, int clase) {
+    return PideFichero(nombre, OpcionesAbrir, TRUE, plantilla, clase);
+}
+
+BOOL PideFicheroGuardar(CString& nombre, CDocTemplate** plantilla, int clase) {
+    return PideFichero(nombre, OpcionesGuardar, FALSE, plantilla, clase);
+}
+
+BOOL PideVariosFicheros(CString& nombres, CDocTemplate** plantilla, int clase) {
+    return PideFichero(nombres, OpcionesVarios, TRUE, plantilla, clase);
+}
+
+} // namespace Cuadros

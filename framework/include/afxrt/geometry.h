@@ -2,7 +2,7 @@
 // structures that they derive from.
 #pragma once
 
-#include <afxrt/config.h>
+#include "config.h"
 
 class CRect;
 class CSize;

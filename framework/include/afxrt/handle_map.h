@@ -3,11 +3,20 @@
 // a handle that has no object, owns nothing, and lives until the thread is idle.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace afx_internal {
+
+/// Whether the pointer is null: also right for `this`, which a compiler takes to be never null
+/// (the GetSafe... functions may be called on null pointers).
+inline bool IsNull(const void* pointer) {
+    const void* const volatile opaque = pointer;
+    return !opaque;
+}
 
 /// How a map handles its class of objects. Specialised beside each mapped class with
 ///   static void SetHandle(Object&, Handle)               sets the handle members, without
@@ -34,7 +43,9 @@ class TemporaryObjects {
 public:
     TemporaryObjects(const TemporaryObjects&) = delete;
     TemporaryObjects& operator=(const TemporaryObjects&) = delete;
-    virtual void DeleteTemporaries() = 0;
+    virtual std::size_t CountTemporaries() const = 0;
+    /// Deletes all but the first `kept` temporary objects; their handles live on.
+    virtual void DeleteTemporaries(std::size_t kept) = 0;
 
 protected:
     TemporaryObjects();
@@ -44,10 +55,23 @@ protected:
 /// Deletes the temporary objects of all maps of the calling thread; their handles live on.
 void DeleteTemporaryObjects();
 
+/// Deletes, at its end, the temporary objects that the thread has made since its beginning:
+/// nobody who may still hold one was running before.
+class TemporaryScope {
+public:
+    TemporaryScope();
+    ~TemporaryScope();
+    TemporaryScope(const TemporaryScope&) = delete;
+    TemporaryScope& operator=(const TemporaryScope&) = delete;
+
+private:
+    std::vector<std::size_t> m_kept; // of each map of the thread, in the order of their making
+};
+
 template <class Object, class Handle>
 class HandleMap final : public TemporaryObjects {
 public:
-    ~HandleMap() override { DeleteTemporaries(); }
+    ~HandleMap() override { DeleteTemporaries(0); }
 
     /// The object of the handle: the permanent one, else a temporary one. Null for a null handle.
     Object* FromHandle(Handle handle) {
@@ -57,8 +81,8 @@ public:
             return permanent;
         Object*& temporary = m_temporary[handle];
         if (!temporary) {
-            m_owned.push_back(HandleTraits<Object>::MakeTemporary(handle));
-            temporary = m_owned.back().get();
+            m_owned.emplace_back(handle, HandleTraits<Object>::MakeTemporary(handle));
+            temporary = m_owned.back().second.get();
         }
         // Set each time: the holder of a temporary object may have detached it.
         HandleTraits<Object>::SetHandle(*temporary, handle);
@@ -84,17 +108,24 @@ public:
         m_temporary.erase(found);
     }
 
-    void DeleteTemporaries() override {
-        m_temporary.clear();
-        for (const auto& object : m_owned) // the handle belongs to somebody else
+    std::size_t CountTemporaries() const override { return m_owned.size(); }
+
+    void DeleteTemporaries(std::size_t kept) override {
+        while (m_owned.size() > kept) {
+            const auto& [handle, object] = m_owned.back();
+            const auto found = m_temporary.find(handle);
+            if (found != m_temporary.end() && found->second == object.get())
+                m_temporary.erase(found);
+            // The handle belongs to somebody else.
             HandleTraits<Object>::SetHandle(*object, Handle{});
-        m_owned.clear();
+            m_owned.pop_back();
+        }
     }
 
 private:
     std::unordered_map<Handle, Object*> m_permanent;
     std::unordered_map<Handle, Object*> m_temporary;
-    std::vector<std::unique_ptr<Object>> m_owned;
+    std::vector<std::pair<Handle, std::unique_ptr<Object>>> m_owned; // in the order of making
 };
 
 } // namespace afx_internal

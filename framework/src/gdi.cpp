@@ -5,8 +5,6 @@
 #include <afxrt/handle_map.h>
 #include <afxrt/module.h>
 
-#include <commctrl.h>
-
 #include <cstdlib>
 #include <cwchar>
 
@@ -87,7 +85,7 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
 }
 
 void PASCAL CGdiObject::DeleteTempMap() {
-    GdiObjects().DeleteTemporaries();
+    GdiObjects().DeleteTemporaries(0);
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject) {

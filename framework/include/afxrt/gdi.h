@@ -4,6 +4,8 @@
 #include "geometry.h"
 #include "object.h"
 
+#include <commctrl.h>
+
 class CBitmap;
 class CDC;
 

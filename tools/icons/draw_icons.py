@@ -139,9 +139,9 @@ def contours(p):
     p.fill(foot, rgb("#fdf4d6"))
     thin, thick = p.by_size(1.2, 1.2, 1.6), p.by_size(1.4, 2.2, 3.2)
     if p.size != 16:
-        p.line(smooth(scaled(RIDGE, (8.0, 8.0), 0.78), closed=True), BROWN, thin, closed=True)
+        p.line(smooth(scaled(RIDGE, (8.0, 8.0), 0.85), closed=True), BROWN, thin, closed=True)
     for x, y in ((11.2, 5.2), (5.4, 10.4)):
-        for radius in p.by_size((2.2,), (2.5, 1.0), (2.6, 1.5)):
+        for radius in p.by_size((2.2,), (2.1, 0.8), (2.1, 1.1)):
             p.line(ellipse(x, y, radius, radius * 0.9), BROWN, thin, closed=True)
     p.line(foot, BROWN, thick, closed=True)
 

@@ -12,3 +12,5 @@
 
 #define AFXAPI    __stdcall
 #define AFX_CDECL __cdecl
+/// The calling convention of message handlers.
+#define AFX_MSG_CALL

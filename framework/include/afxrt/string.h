@@ -78,18 +78,10 @@ public:
         Append(pszSrc);
         return *this;
     }
-    CSimpleStringT& operator+=(char ch) {
-        AppendChar(static_cast<XCHAR>(ch));
-        return *this;
-    }
-    CSimpleStringT& operator+=(unsigned char ch) {
-        AppendChar(static_cast<XCHAR>(ch));
-        return *this;
-    }
-    CSimpleStringT& operator+=(wchar_t ch) {
-        AppendChar(static_cast<XCHAR>(ch));
-        return *this;
-    }
+    /// A character of the other type is converted by the ANSI code page.
+    CSimpleStringT& operator+=(char ch);
+    CSimpleStringT& operator+=(unsigned char ch) { return *this += static_cast<char>(ch); }
+    CSimpleStringT& operator+=(wchar_t ch);
 
     operator PCXSTR() const noexcept { return m_pszData; }
     XCHAR operator[](int iChar) const { return GetAt(iChar); }
@@ -156,6 +148,8 @@ public:
 protected:
     /// Replaces the text by exactly `nLength` characters, which may lie in the string itself.
     void Assign(const XCHAR* pchSrc, int nLength);
+    /// The same text in the other character type, by the ANSI code page.
+    static CSimpleStringT Converted(const YCHAR* pch, int nLength);
     [[noreturn]] static void ThrowInvalidArgument();
 
 private:
@@ -195,15 +189,17 @@ public:
     CStringT(const CStringT&) = default;
     CStringT(CStringT&&) noexcept = default;
     CStringT(const Base& strSrc) : Base(strSrc) {}
+    CStringT(Base&& strSrc) noexcept : Base(std::move(strSrc)) {}
     /// Also takes MAKEINTRESOURCE(id): the string resource `id`, empty when there is none.
     CStringT(const XCHAR* pszSrc);
     /// Converts between the ANSI code page and Unicode; also takes MAKEINTRESOURCE(id).
     CSTRING_EXPLICIT CStringT(const YCHAR* pszSrc);
-    CSTRING_EXPLICIT CStringT(const unsigned char* pszSrc);
+    CSTRING_EXPLICIT CStringT(const unsigned char* pszSrc)
+        : CStringT(reinterpret_cast<const char*>(pszSrc)) {}
     CSTRING_EXPLICIT CStringT(char ch, int nLength = 1);
     CSTRING_EXPLICIT CStringT(wchar_t ch, int nLength = 1);
     CStringT(const XCHAR* pch, int nLength) : Base(pch, nLength) {}
-    CStringT(const YCHAR* pch, int nLength);
+    CStringT(const YCHAR* pch, int nLength) : Base(Base::Converted(pch, nLength)) {}
     ~CStringT() = default;
 
     CStringT& operator=(const CStringT&) = default;
@@ -216,10 +212,12 @@ public:
         Base::operator=(pszSrc);
         return *this;
     }
-    CStringT& operator=(PCYSTR pszSrc);
-    CStringT& operator=(const unsigned char* pszSrc);
-    CStringT& operator=(char ch);
-    CStringT& operator=(wchar_t ch);
+    CStringT& operator=(PCYSTR pszSrc) { return *this = FromOther(pszSrc); }
+    CStringT& operator=(const unsigned char* pszSrc) {
+        return *this = reinterpret_cast<const char*>(pszSrc);
+    }
+    CStringT& operator=(char ch) { return *this = CStringT(ch); }
+    CStringT& operator=(wchar_t ch) { return *this = CStringT(ch); }
 
     CStringT& operator+=(const Base& str) {
         Base::Append(str);
@@ -229,10 +227,22 @@ public:
         Base::Append(pszSrc);
         return *this;
     }
-    CStringT& operator+=(PCYSTR pszSrc);
-    CStringT& operator+=(char ch);
-    CStringT& operator+=(unsigned char ch);
-    CStringT& operator+=(wchar_t ch);
+    CStringT& operator+=(PCYSTR pszSrc) {
+        Base::Append(FromOther(pszSrc));
+        return *this;
+    }
+    CStringT& operator+=(char ch) {
+        Base::operator+=(ch);
+        return *this;
+    }
+    CStringT& operator+=(unsigned char ch) {
+        Base::operator+=(ch);
+        return *this;
+    }
+    CStringT& operator+=(wchar_t ch) {
+        Base::operator+=(ch);
+        return *this;
+    }
 
     friend CStringT operator+(const CStringT& str1, const CStringT& str2) {
         return Concatenate(str1, str1.GetLength(), str2, str2.GetLength());
@@ -255,7 +265,7 @@ public:
     friend bool operator==(const CStringT& str1, PCXSTR psz2) noexcept {
         return str1.CompareWith(psz2, Base::StringLength(psz2)) == 0;
     }
-    friend bool operator==(const CStringT& str1, PCYSTR psz2) { return str1 == Converted(psz2); }
+    friend bool operator==(const CStringT& str1, PCYSTR psz2) { return str1 == FromOther(psz2); }
     friend bool operator==(const CStringT& str1, XCHAR ch2) noexcept {
         return str1.CompareWith(&ch2, 1) == 0;
     }
@@ -340,9 +350,10 @@ public:
     BSTR SetSysString(BSTR* pbstr) const;
 
 private:
-    static CStringT Converted(PCYSTR psz) { return CStringT(psz, StringLengthOther(psz)); }
+    static CStringT FromOther(PCYSTR psz) {
+        return CStringT(psz, CSimpleStringT<YCHAR>::StringLength(psz));
+    }
     static CStringT Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int nLength2);
-    static int StringLengthOther(PCYSTR psz) noexcept;
     int CompareWith(const XCHAR* pch, int nLength) const noexcept;
 };
 

@@ -3,6 +3,7 @@
 #include "kit/driver/Dialog.h"
 #include "kit/driver/Failure.h"
 #include "kit/driver/MessageExpectation.h"
+#include "kit/driver/Watchdog.h"
 #include "kit/picture/Text.h"
 
 #include <windows.h>
@@ -10,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -104,6 +106,7 @@ private:
     std::vector<HWND> driven_;       // windows whose steps are running now, outermost first
     std::map<HWND, int> dismissals_; // how often a window was told to go
     Where where_;
+    std::optional<Watchdog> watchdog_;
     HWND timer_ = nullptr;
     HWND latest_ = nullptr; // the dialog of the latest step
     Script* outer_ = nullptr;

@@ -1,0 +1,80 @@
+#include "kit/picture/Picture.h"
+
+#include "kit/picture/Png.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace kit {
+namespace {
+
+/// The pixels of a window with its frame as RGB rows from the top; empty when it has none.
+std::vector<std::uint8_t> pixelsOf(HWND window, int width, int height) {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // rows from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+
+    void* bits = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (bitmap == nullptr)
+        return {};
+    // Not the window's own clipping: its children belong to the picture.
+    const HDC source = GetDCEx(window, nullptr, DCX_WINDOW | DCX_CACHE);
+    const HDC memory = CreateCompatibleDC(source);
+    const HGDIOBJ former = SelectObject(memory, bitmap);
+    const BOOL copied = BitBlt(memory, 0, 0, width, height, source, 0, 0, SRCCOPY);
+    GdiFlush();
+
+    std::vector<std::uint8_t> rgb;
+    if (copied) {
+        const auto* pixel = static_cast<const RGBQUAD*>(bits);
+        const auto* const end = pixel + static_cast<std::size_t>(width) * height;
+        rgb.reserve((end - pixel) * 3);
+        for (; pixel != end; ++pixel)
+            rgb.insert(rgb.end(), {pixel->rgbRed, pixel->rgbGreen, pixel->rgbBlue});
+    }
+    SelectObject(memory, former);
+    DeleteDC(memory);
+    ReleaseDC(window, source);
+    DeleteObject(bitmap);
+    return rgb;
+}
+
+bool writeFile(const std::wstring& path, const std::vector<std::uint8_t>& contents) {
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    const BOOL ok =
+        WriteFile(file, contents.data(), static_cast<DWORD>(contents.size()), &written, nullptr);
+    CloseHandle(file);
+    return ok && written == contents.size();
+}
+
+} // namespace
+
+bool savePicture(HWND window, const Text& path) {
+    RECT rect = {};
+    GetWindowRect(window, &rect);
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    if (width <= 0 || height <= 0)
+        return false;
+
+    // Only the owner may ask it to draw; another thread takes what is there (it may hang).
+    if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) {
+        // Without a window manager even the active window has the frame of an inactive one.
+        SendMessageW(window, WM_NCACTIVATE, TRUE, 0);
+        RedrawWindow(window, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    }
+    const std::vector<std::uint8_t> rgb = pixelsOf(window, width, height);
+    return !rgb.empty() && writeFile(path, encodePng(rgb, width, height));
+}
+
+} // namespace kit

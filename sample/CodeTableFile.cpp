@@ -1,4 +1,4 @@
-#include "CodeTableFile.h"
+#include "sample/CodeTableFile.h"
 
 #include <windows.h>
 

@@ -157,6 +157,6 @@ TEST(CodeTableFile, RefusesAHugeFile) {
 
 TEST(CodeTableFile, ReadsTheSurveyCodesThatComeWithTheSample) {
     CDigiTab table;
-    EXPECT_EQ(ReadCodeTableFile(CString(SURVEY_CODES_FILE), table), L"");
+    EXPECT_EQ(ReadCodeTableFile(SURVEY_CODES_FILE, table), L"");
     EXPECT_EQ(table.Cantidad(), 63u);
 }

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+#include "cotana/aplicacion/Aplicacion.h"
+#include "sample/Terreno.h"
+
+/// The sample host: owns the terrain, opens the conversations, answers their requests for help.
+class CEjemploApp : public Cotana::CAplicacion {
+public:
+    CEjemploApp();
+
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+    /// Opens the dialog's page in the browser; on a tour, notes the request only.
+    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override;
+
+    /// The help contexts for which the dialogs have asked since the last call.
+    std::vector<DWORD_PTR> RecogeAyudas();
+
+private:
+    Terreno m_Terreno;
+    std::vector<DWORD_PTR> m_Ayudas;
+    bool m_DeRecorrido = false;
+    int m_CodigoSalida = 0;
+};

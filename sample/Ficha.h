@@ -1,0 +1,36 @@
+#pragma once
+
+#include <afx.h>
+
+#include <string>
+#include <vector>
+
+#include "cotana/entidad/DigiTab.h"
+
+/// One field of a record, for a person to read.
+struct Campo {
+    CString nombre;
+    CString valor;
+};
+
+/// A record's fields, in the order of their declaration.
+using Ficha = std::vector<Campo>;
+
+/// A number in the shortest form that reads back as the same one (15 digits at most).
+CString Valor(double numero);
+CString Valor(int numero);
+/// A text in quotes.
+CString Valor(const CString& texto);
+/// How many codes a table has, and the first of them: "63: CP, CP-T, BM, GCP, GND, ...".
+CString Valor(const Cotana::CDigiTab& tabla);
+
+/// The record before and after a conversation, a field per line; a changed one is marked with *.
+/// The two have the same fields.
+CString AntesYDespues(const Ficha& antes, const Ficha& despues);
+
+/// UTF-8 of a text.
+std::string Utf8(const CString& texto);
+
+/// Writes a text in UTF-8 to the standard output, or with `error` to the error output.
+/// @return false when the program has no such output, as when a window's icon started it.
+bool Escribe(const CString& texto, bool error = false);

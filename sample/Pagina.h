@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "sample/Ficha.h"
+#include "sample/Visita.h"
+
+/// What the tour saw at one stop.
+struct Parada {
+    CString subsistema; ///< Empty for the host's own window.
+    CString titulo;
+    Ficha antes, despues;
+    std::vector<DWORD_PTR> ayudas; ///< Contexts for which help was asked.
+    std::vector<Visita::Foto> fotos;
+};
+
+/// Writes index.html into the tour's folder: one file with the pictures in it.
+/// @return false when it cannot be written, or a picture not be read.
+bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta);

@@ -1,0 +1,92 @@
+#include "sample/Recorrido.h"
+
+#include <shlobj.h>
+
+#include "sample/Conversacion.h"
+#include "sample/LanzadorDlg.h"
+#include "sample/Pagina.h"
+
+namespace {
+
+/// How often the scripts have failed.
+int fallos = 0;
+
+void PreparaKit() {
+    kit::useOwnDesktop();
+    kit::endOnFault();
+    kit::setReporter({[](const std::string& mensaje, const kit::Where& donde) {
+                          ++fallos;
+                          CString texto;
+                          texto.Format(L"%S(%u): %s\n", donde.file_name(),
+                                       static_cast<unsigned>(donde.line()),
+                                       kit::utf16(mensaje).c_str());
+                          Escribe(texto, true);
+                      },
+                      [] { return false; }});
+    kit::setMessageFilter(
+        [](MSG& mensaje) { return AfxGetApp()->PreTranslateMessage(&mensaje) != FALSE; });
+}
+
+/// Where the host's own window is shown: nothing is opened from it.
+Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
+    Visita visita(carpeta, L"Lanzador");
+    visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {
+        visita.Fotografia(dialogo.handle(),
+                          L"The sample host: the conversations, and the record of the chosen one.");
+        dialogo.press(IDCANCEL);
+    });
+    CLanzadorDlg lanzador(terreno);
+    visita.Guion().run([&lanzador] { return lanzador.DoModal(); });
+    return {.titulo = L"The sample host", .fotos = visita.Fotos()};
+}
+
+Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Terreno& terreno,
+                          const CString& carpeta) {
+    conversacion.prepara(terreno);
+    Parada parada{.subsistema = conversacion.subsistema,
+                  .titulo = conversacion.titulo,
+                  .antes = conversacion.ficha(terreno)};
+    Visita visita(carpeta, conversacion.raiz);
+    conversacion.conduce(visita);
+    const INT_PTR resultado =
+        visita.Guion().run([&] { return conversacion.abre(terreno, nullptr); });
+    if (resultado != IDOK)
+        kit::fail("the conversation was not accepted");
+    parada.despues = conversacion.ficha(terreno);
+    parada.fotos = visita.Fotos();
+    parada.ayudas = app.RecogeAyudas();
+    return parada;
+}
+
+void Imprime(const Parada& parada) {
+    Escribe(parada.subsistema + L": " + parada.titulo + L"\n" +
+            AntesYDespues(parada.antes, parada.despues));
+    for (const DWORD_PTR ayuda : parada.ayudas)
+        Escribe(L"    help asked for at context " + Valor(static_cast<int>(ayuda)) + L"\n");
+    for (const Visita::Foto& foto : parada.fotos)
+        Escribe(L"    " + foto.fichero + L": " + foto.pie + L"\n");
+}
+
+} // namespace
+
+bool Recorre(CEjemploApp& app, Terreno& terreno, const CString& carpeta) {
+    wchar_t completa[MAX_PATH];
+    GetFullPathNameW(carpeta, MAX_PATH, completa, nullptr);
+    const int hecha = SHCreateDirectoryExW(nullptr, completa, nullptr);
+    if (hecha != ERROR_SUCCESS && hecha != ERROR_ALREADY_EXISTS && hecha != ERROR_FILE_EXISTS) {
+        Escribe(carpeta + L": the folder cannot be made\n", true);
+        return false;
+    }
+
+    PreparaKit();
+    std::vector<Parada> paradas = {VisitaLanzador(terreno, completa)};
+    for (const Conversacion& conversacion : Conversaciones()) {
+        paradas.push_back(VisitaConversacion(conversacion, app, terreno, completa));
+        Imprime(paradas.back());
+    }
+    if (!EscribePagina(paradas, completa)) {
+        Escribe(carpeta + L": the page cannot be written\n", true);
+        return false;
+    }
+    return fallos == 0;
+}

@@ -1,0 +1,40 @@
+#include "sample/Ficha.h"
+
+#include "kit/kit.h"
+
+using Cotana::CDigiTab;
+using Cotana::CElementoDigiTab;
+
+TEST(Ficha, ShowsNumbersInTheirShortestForm) {
+    EXPECT_EQ(Valor(0.1), L"0.1");
+    EXPECT_EQ(Valor(-1000.0), L"-1000");
+    EXPECT_EQ(Valor(1e-7), L"1e-07");
+    EXPECT_EQ(Valor(7), L"7");
+}
+
+TEST(Ficha, ShowsTextsInQuotes) {
+    EXPECT_EQ(Valor(CString()), L"\"\"");
+    EXPECT_EQ(Valor(CString(L"North slope")), L"\"North slope\"");
+}
+
+TEST(Ficha, ShowsTheFirstFiveCodesOfATable) {
+    CDigiTab tabla;
+    EXPECT_EQ(Valor(tabla), L"0");
+    for (const wchar_t* codigo : {L"A", L"B", L"C", L"D", L"E"})
+        tabla.Inserta(CElementoDigiTab(codigo), true);
+    EXPECT_EQ(Valor(tabla), L"5: A, B, C, D, E");
+    tabla.Inserta(CElementoDigiTab(L"F"), true);
+    EXPECT_EQ(Valor(tabla), L"6: A, B, C, D, E, ...");
+}
+
+TEST(Ficha, MarksWhatHasChanged) {
+    const Ficha antes = {{L"m_Nombre", L"\"a\""}, {L"m_N", L"1"}};
+    const Ficha despues = {{L"m_Nombre", L"\"b\""}, {L"m_N", L"1"}};
+    EXPECT_EQ(AntesYDespues(antes, despues), L"  * m_Nombre  \"a\"  -> \"b\"\n"
+                                             L"    m_N       1\n");
+}
+
+TEST(Ficha, IsWrittenInUtf8) {
+    EXPECT_EQ(Utf8(L""), "");
+    EXPECT_EQ(Utf8(L"\u00D1 \u20AC"), "\xC3\x91 \xE2\x82\xAC");
+}

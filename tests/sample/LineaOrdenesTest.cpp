@@ -1,0 +1,37 @@
+#include "sample/LineaOrdenes.h"
+
+#include "kit/kit.h"
+
+#include <vector>
+
+namespace {
+
+LineaOrdenes Lee(const std::vector<const wchar_t*>& argumentos) {
+    return LeeLineaOrdenes(argumentos);
+}
+
+} // namespace
+
+TEST(LineaOrdenes, AsksForNothingWhenItIsEmpty) {
+    const LineaOrdenes linea = Lee({});
+    EXPECT_EQ(linea.carpetaRecorrido, L"");
+    EXPECT_EQ(linea.ficheroCodigos, L"");
+    EXPECT_EQ(linea.error, L"");
+}
+
+TEST(LineaOrdenes, TakesTheTourAndTheCodeTableInEitherOrder) {
+    for (const auto& argumentos : std::vector<std::vector<const wchar_t*>>{
+             {L"--tour", L"out", L"codes.txt"}, {L"codes.txt", L"--tour", L"out"}}) {
+        const LineaOrdenes linea = Lee(argumentos);
+        EXPECT_EQ(linea.carpetaRecorrido, L"out");
+        EXPECT_EQ(linea.ficheroCodigos, L"codes.txt");
+        EXPECT_EQ(linea.error, L"");
+    }
+}
+
+TEST(LineaOrdenes, SaysWhatIsWrongAndHowItIsUsed) {
+    const CString usage = L"; usage: Ejemplo [--tour FOLDER] [CODE-TABLE-FILE]";
+    EXPECT_EQ(Lee({L"--tour"}).error, L"--tour wants the folder for its results" + usage);
+    EXPECT_EQ(Lee({L"--help"}).error, L"unknown option --help" + usage);
+    EXPECT_EQ(Lee({L"a.txt", L"b.txt"}).error, L"more than one code table: b.txt" + usage);
+}

@@ -9,7 +9,7 @@ foreach(header ${headers})
   cmake_path(GET header PARENT_PATH folder)
   cmake_path(GET header STEM stem)
   foreach(piece cuadros/${folder}/${stem}.cpp cuadros/resources/en-US/${folder}/${stem}.rc
-                tests/${folder}/${stem}Test.cpp docs/dialogs/${stem}.md docs/pictures/${stem}.png)
+                tests/${folder}/${stem}Test.cpp docs/dialogs/${stem}.md docs/dialogs/${stem}.png)
     if(NOT EXISTS ${root}/${piece})
       list(APPEND missing ${piece})
     endif()

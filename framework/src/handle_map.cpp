@@ -22,7 +22,18 @@ TemporaryObjects::~TemporaryObjects() {
 
 void DeleteTemporaryObjects() {
     for (TemporaryObjects* map : MapsOfThread())
-        map->DeleteTemporaries();
+        map->DeleteTemporaries(0);
+}
+
+TemporaryScope::TemporaryScope() {
+    for (const TemporaryObjects* map : MapsOfThread())
+        m_kept.push_back(map->CountTemporaries());
+}
+
+TemporaryScope::~TemporaryScope() {
+    const std::vector<TemporaryObjects*>& maps = MapsOfThread();
+    for (std::size_t i = 0; i < maps.size(); ++i)
+        maps[i]->DeleteTemporaries(i < m_kept.size() ? m_kept[i] : 0);
 }
 
 } // namespace afx_internal

@@ -1,0 +1,246 @@
+#include "afxrt/app.h"
+
+#include "afxres.h"
+#include "afxrt/wnd.h"
+#include "thread_state.h"
+
+#include <cwchar>
+#include <string>
+
+using afx_internal::HandleOf;
+
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+namespace {
+
+void Replace(LPCTSTR& member, const wchar_t* text) {
+    std::free(const_cast<LPTSTR>(member));
+    member = text ? ::_wcsdup(text) : nullptr;
+}
+
+// The path of a file with another extension.
+std::wstring WithExtension(const std::wstring& path, const wchar_t* extension) {
+    const std::size_t dot = path.find_last_of(L".\\/");
+    const bool has = dot != std::wstring::npos && path[dot] == L'.';
+    return (has ? path.substr(0, dot) : path) + extension;
+}
+
+std::wstring FileTitle(const std::wstring& path) {
+    const std::size_t slash = path.find_last_of(L"\\/");
+    return WithExtension(slash == std::wstring::npos ? path : path.substr(slash + 1), L"");
+}
+
+} // namespace
+
+CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pState(AfxGetModuleState()) {
+    Replace(m_pszAppName, lpszAppName);
+    if (!m_pState->m_pCurrentWinApp)
+        m_pState->m_pCurrentWinApp = this;
+}
+
+CWinApp::~CWinApp() {
+    if (m_pState->m_pCurrentWinApp == this) {
+        m_pState->m_pCurrentWinApp = nullptr;
+        m_pState->m_lpszCurrentAppName = nullptr;
+    }
+    for (LPCTSTR* name :
+         {&m_pszAppName, &m_pszExeName, &m_pszHelpFilePath, &m_pszProfileName, &m_pszRegistryKey})
+        Replace(*name, nullptr);
+}
+
+BOOL CWinApp::InitApplication() {
+    return TRUE;
+}
+
+BOOL CWinApp::InitInstance() {
+    return TRUE;
+}
+
+int CWinApp::ExitInstance() {
+    return static_cast<int>(afx_internal::CurrentThread().currentMessage.wParam);
+}
+
+int CWinApp::Run() {
+    // Without a main window there would be nothing to end the loop.
+    if (!m_pMainWnd && !AfxGetMainWnd())
+        ::PostQuitMessage(0);
+    return CWinThread::Run();
+}
+
+void CWinApp::SetCurrentHandles() {
+    std::wstring path(32768, L'\0');
+    path.resize(::GetModuleFileName(m_hInstance, path.data(), static_cast<DWORD>(path.size())));
+    const std::wstring title = FileTitle(path);
+    if (!m_pszExeName)
+        Replace(m_pszExeName, title.c_str());
+    if (!m_pszAppName) {
+        CString name;
+        // Only the module's own title: another's in the chain would be somebody else's name.
+        if (!name.LoadString(m_hInstance, AFX_IDS_APP_TITLE))
+            name = m_pszExeName;
+        Replace(m_pszAppName, name);
+    }
+    m_pState->m_lpszCurrentAppName = m_pszAppName;
+    if (!m_pszHelpFilePath)
+        Replace(m_pszHelpFilePath,
+                WithExtension(path, m_eHelpType == afxHTMLHelp ? L".CHM" : L".HLP").c_str());
+    if (!m_pszProfileName)
+        Replace(m_pszProfileName, (title + L".INI").c_str());
+}
+
+void CWinApp::EnableHtmlHelp() {
+    SetHelpMode(afxHTMLHelp);
+}
+
+void CWinApp::SetHelpMode(AFX_HELP_TYPE eHelpType) {
+    m_eHelpType = eHelpType;
+    if (m_pszHelpFilePath)
+        Replace(
+            m_pszHelpFilePath,
+            WithExtension(m_pszHelpFilePath, eHelpType == afxHTMLHelp ? L".CHM" : L".HLP").c_str());
+}
+
+AFX_HELP_TYPE CWinApp::GetHelpMode() {
+    return m_eHelpType;
+}
+
+namespace {
+
+// The window that the help viewer belongs to.
+HWND HelpOwner() {
+    const CWnd* main = AfxGetMainWnd();
+    return main ? main->m_hWnd : ::GetActiveWindow();
+}
+
+HWND WINAPI CallHelpViewer(HWND caller, LPCTSTR file, UINT command, DWORD_PTR data) {
+    using Function = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);
+    static const HMODULE viewer =
+        ::LoadLibraryEx(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const auto function = viewer ? reinterpret_cast<Function>(reinterpret_cast<void*>(
+                                              ::GetProcAddress(viewer, "HtmlHelpW")))
+                                        : nullptr;
+    return function ? function(caller, file, command, data) : nullptr;
+}
+
+afx_internal::HtmlHelpFunction htmlHelp = &CallHelpViewer;
+
+} // namespace
+
+namespace afx_internal {
+HtmlHelpFunction SetHtmlHelpFunction(HtmlHelpFunction function) {
+    return std::exchange(htmlHelp, function ? function : &CallHelpViewer);
+}
+} // namespace afx_internal
+
+void CWinApp::WinHelp(DWORD_PTR dwData, UINT nCmd) {
+    CWaitCursor wait;
+    if (!::WinHelp(HelpOwner(), m_pszHelpFilePath, nCmd, dwData))
+        AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
+}
+
+void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd) {
+    CWaitCursor wait;
+    if (!htmlHelp(HelpOwner(), m_pszHelpFilePath, nCmd, dwData))
+        AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
+}
+
+void CWinApp::WinHelpInternal(DWORD_PTR dwData, UINT nCmd) {
+    if (m_eHelpType == afxHTMLHelp) {
+        constexpr UINT helpContext = 0x000F; // HH_HELP_CONTEXT
+        HtmlHelp(dwData, nCmd == HELP_CONTEXT ? helpContext : nCmd);
+    } else {
+        WinHelp(dwData, nCmd);
+    }
+}
+
+void CWinApp::OnHelp() {
+    if (CWnd* window = m_pMainWnd)
+        window->OnHelp();
+}
+
+HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
+}
+
+HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
+    return LoadCursor(MAKEINTRESOURCE(nIDResource));
+}
+
+HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const {
+    return ::LoadCursor(nullptr, lpszCursorName);
+}
+
+HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
+    return ::LoadIcon(AfxFindResourceHandle(lpszResourceName, RT_GROUP_ICON), lpszResourceName);
+}
+
+HICON CWinApp::LoadIcon(UINT nIDResource) const {
+    return LoadIcon(MAKEINTRESOURCE(nIDResource));
+}
+
+HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
+    return ::LoadIcon(nullptr, lpszIconName);
+}
+
+void CWinApp::DoWaitCursor(int nCode) {
+    const int before = m_nWaitCursorCount;
+    m_nWaitCursorCount = std::max(0, before + nCode);
+    if (m_nWaitCursorCount > 0) {
+        const HCURSOR previous = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+        if (before == 0)
+            m_hcurWaitCursorRestore = previous;
+    } else if (before > 0) {
+        ::SetCursor(m_hcurWaitCursorRestore);
+    }
+}
+
+CWaitCursor::CWaitCursor() {
+    if (CWinApp* app = AfxGetApp())
+        app->BeginWaitCursor();
+}
+
+CWaitCursor::~CWaitCursor() {
+    if (CWinApp* app = AfxGetApp())
+        app->EndWaitCursor();
+}
+
+void CWaitCursor::Restore() {
+    if (CWinApp* app = AfxGetApp())
+        app->RestoreWaitCursor();
+}
+
+namespace {
+
+int ShowMessage(LPCTSTR text, LPCTSTR caption, UINT type) {
+    if ((type & MB_ICONMASK) == 0)
+        type |= (type & MB_TYPEMASK) == MB_YESNO || (type & MB_TYPEMASK) == MB_YESNOCANCEL
+                    ? MB_ICONQUESTION
+                    : MB_ICONEXCLAMATION;
+    HWND top = nullptr;
+    const CWnd* owner = CWnd::GetSafeOwner(nullptr, &top);
+    const bool disableTop = top && ::IsWindowEnabled(top);
+    if (disableTop)
+        ::EnableWindow(top, FALSE);
+    const int result = ::MessageBox(HandleOf(owner), text, caption, type);
+    if (disableTop)
+        ::EnableWindow(top, TRUE);
+    return result;
+}
+
+} // namespace
+
+int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
+    return ShowMessage(lpszPrompt, m_pszAppName, nType);
+}
+
+int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
+    if (CWinApp* app = AfxGetApp())
+        return app->DoMessageBox(lpszText, nType, nIDHelp);
+    return ShowMessage(lpszText, nullptr, nType);
+}
+
+int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
+    CString text;
+    text.LoadString(nIDPrompt);
+    return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
+}

@@ -1,0 +1,175 @@
+// Data exchange: the mechanism, and all that is not text.
+#include "afxrt/ddx.h"
+
+#include "afxrt/controls.h"
+
+CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
+    : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd) {}
+
+HWND CDataExchange::Prepare(int nIDC, bool edit) {
+    const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
+    if (!control)
+        AfxThrowNotSupportedException();
+    m_hWndLastControl = control;
+    m_bEditLastControl = edit;
+    return control;
+}
+
+HWND CDataExchange::PrepareCtrl(int nIDC) {
+    return Prepare(nIDC, false);
+}
+
+HWND CDataExchange::PrepareEditCtrl(int nIDC) {
+    return Prepare(nIDC, true);
+}
+
+void CDataExchange::Fail() {
+    if (m_bSaveAndValidate && m_hWndLastControl) {
+        ::SetFocus(m_hWndLastControl);
+        if (m_bEditLastControl) {
+            ::SendMessage(m_hWndLastControl, EM_SETSEL, 0, -1);
+            ::SendMessage(m_hWndLastControl, EM_SCROLLCARET, 0, 0);
+        }
+    }
+    AfxThrowUserException();
+}
+
+void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
+    if (rControl.m_hWnd) // an exchange before has subclassed it
+        return;
+    if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC)))
+        AfxThrowNotSupportedException();
+}
+
+void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
+    } else {
+        const int shown = value < BST_UNCHECKED || value > BST_INDETERMINATE ? 0 : value;
+        ::SendMessage(control, BM_SETCHECK, static_cast<WPARAM>(shown), 0);
+    }
+}
+
+namespace {
+
+bool IsRadioButton(HWND control) {
+    return (::SendMessage(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
+}
+
+} // namespace
+
+void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
+    HWND control = pDX->PrepareCtrl(nIDC);
+    const int wanted = value;
+    if (pDX->m_bSaveAndValidate)
+        value = -1;
+    // The group: this control, and those after it in the order of the dialog up to the next
+    // that starts one.
+    int index = 0;
+    do {
+        if (IsRadioButton(control)) {
+            if (!pDX->m_bSaveAndValidate)
+                ::SendMessage(control, BM_SETCHECK, index == wanted ? BST_CHECKED : BST_UNCHECKED,
+                              0);
+            else if (value < 0 && ::SendMessage(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
+                value = index;
+            ++index;
+        }
+        control = ::GetWindow(control, GW_HWNDNEXT);
+    } while (control && !(::GetWindowLongPtr(control, GWL_STYLE) & WS_GROUP));
+}
+
+namespace {
+
+// An index kept by a list or combo box, -1 for none.
+void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT get, UINT set) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        index = static_cast<int>(::SendMessage(control, get, 0, 0));
+    else
+        ::SendMessage(control, set, static_cast<WPARAM>(index), 0);
+}
+
+void ReadWindowText(HWND control, CString& text) {
+    const int length = ::GetWindowTextLength(control);
+    ::GetWindowText(control, text.GetBuffer(length), length + 1);
+    text.ReleaseBuffer();
+}
+
+LPARAM TextArgument(const CString& text) {
+    return reinterpret_cast<LPARAM>(text.GetString());
+}
+
+void ExchangeListBoxString(CDataExchange* pDX, int nIDC, CString& value, bool exact) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        const auto index = static_cast<WPARAM>(::SendMessage(control, LB_GETCURSEL, 0, 0));
+        value.Empty();
+        if (static_cast<int>(index) == LB_ERR)
+            return;
+        const auto length = static_cast<int>(::SendMessage(control, LB_GETTEXTLEN, index, 0));
+        ::SendMessage(control, LB_GETTEXT, index,
+                      reinterpret_cast<LPARAM>(value.GetBuffer(length)));
+        value.ReleaseBuffer();
+    } else {
+        const LRESULT found = ::SendMessage(control, exact ? LB_FINDSTRINGEXACT : LB_FINDSTRING,
+                                            static_cast<WPARAM>(-1), TextArgument(value));
+        ::SendMessage(control, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
+    }
+}
+
+void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool exact) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        ReadWindowText(control, value);
+        return;
+    }
+    const LRESULT found = ::SendMessage(control, exact ? CB_FINDSTRINGEXACT : CB_FINDSTRING,
+                                        static_cast<WPARAM>(-1), TextArgument(value));
+    ::SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>(found), 0);
+    if (found == CB_ERR) // no effect where the combo box has no edit
+        afx_internal::SetTextIfDifferent(control, value);
+}
+
+} // namespace
+
+void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index) {
+    ExchangeIndex(pDX, nIDC, index, CB_GETCURSEL, CB_SETCURSEL);
+}
+
+void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index) {
+    ExchangeIndex(pDX, nIDC, index, LB_GETCURSEL, LB_SETCURSEL);
+}
+
+void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {
+    ExchangeListBoxString(pDX, nIDC, value, false);
+}
+
+void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    ExchangeListBoxString(pDX, nIDC, value, true);
+}
+
+void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
+    ExchangeComboString(pDX, nIDC, value, false);
+}
+
+void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    ExchangeComboString(pDX, nIDC, value, true);
+}
+
+void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = ::GetScrollPos(control, SB_CTL);
+    else
+        ::SetScrollPos(control, SB_CTL, value, TRUE);
+}
+
+void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value) {
+    const HWND control = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = static_cast<int>(::SendMessage(control, TBM_GETPOS, 0, 0));
+    else
+        ::SendMessage(control, TBM_SETPOS, TRUE, value);
+}

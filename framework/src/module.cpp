@@ -1,0 +1,154 @@
+#include "afxrt/module.h"
+
+#include "afxrt/app.h"
+#include "afxrt/handle_map.h"
+#include "afxrt/wnd.h"
+#include "thread_state.h"
+
+using afx_internal::CurrentThread;
+
+namespace afx_internal {
+
+ThreadState& CurrentThread() {
+    thread_local ThreadState state;
+    return state;
+}
+
+namespace {
+
+StartFault armedFault = StartFault::none;
+
+bool FailsHere(StartFault step) {
+    if (armedFault != step)
+        return false;
+    armedFault = StartFault::none;
+    return true;
+}
+
+// Windows made under the application's state.
+LRESULT CALLBACK ApplicationWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    AFX_MANAGE_STATE(AfxGetAppModuleState());
+    return AfxWndProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+bool FailsAtChainEntry() {
+    return FailsHere(StartFault::chainEntry);
+}
+
+HINSTANCE LoadLanguageModule(HMODULE module);
+
+void ArmStartFault(StartFault fault) {
+    armedFault = fault;
+}
+
+} // namespace afx_internal
+
+AFX_MODULE_STATE::AFX_MODULE_STATE(BOOL bDLL, WNDPROC pfnAfxWndProc)
+    : m_bDLL(bDLL), m_pfnAfxWndProc(pfnAfxWndProc) {}
+
+AFX_MODULE_STATE::~AFX_MODULE_STATE() {
+    // The module is going: nothing of this thread may go on under its state.
+    if (CurrentThread().moduleState == this)
+        CurrentThread().moduleState = nullptr;
+}
+
+AFX_MODULE_STATE* AFXAPI AfxGetAppModuleState() {
+    // Never destroyed: modules that unload after this one's static objects still ask for it.
+    static AFX_MODULE_STATE* const state = [] {
+        auto* made = new AFX_MODULE_STATE(FALSE, &afx_internal::ApplicationWndProc);
+        made->m_hCurrentInstanceHandle = ::GetModuleHandle(nullptr);
+        made->m_hCurrentResourceHandle = made->m_hCurrentInstanceHandle;
+        return made;
+    }();
+    return state;
+}
+
+AFX_MODULE_STATE* AFXAPI AfxGetModuleState() {
+    AFX_MODULE_STATE* state = CurrentThread().moduleState;
+    return state ? state : AfxGetAppModuleState();
+}
+
+AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState) {
+    AFX_MODULE_STATE* previous = AfxGetModuleState();
+    CurrentThread().moduleState = pNewState;
+    return previous;
+}
+
+AFX_MAINTAIN_STATE::AFX_MAINTAIN_STATE(AFX_MODULE_STATE* pModuleState)
+    : m_pPrevModuleState(AfxSetModuleState(pModuleState)) {}
+
+AFX_MAINTAIN_STATE::~AFX_MAINTAIN_STATE() {
+    AfxSetModuleState(m_pPrevModuleState);
+}
+
+CWinApp* AFXAPI AfxGetApp() {
+    return AfxGetModuleState()->m_pCurrentWinApp;
+}
+
+CWinThread* AFXAPI AfxGetThread() {
+    return AfxGetApp();
+}
+
+CWnd* AFXAPI AfxGetMainWnd() {
+    CWinThread* thread = AfxGetThread();
+    return thread ? thread->GetMainWnd() : nullptr;
+}
+
+HINSTANCE AFXAPI AfxGetInstanceHandle() {
+    return AfxGetModuleState()->m_hCurrentInstanceHandle;
+}
+
+HINSTANCE AFXAPI AfxGetResourceHandle() {
+    return AfxGetModuleState()->m_hCurrentResourceHandle;
+}
+
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
+    AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
+}
+
+LPCTSTR AFXAPI AfxGetAppName() {
+    return AfxGetModuleState()->m_lpszCurrentAppName;
+}
+
+BOOL AFXAPI AfxCoreInitModule() {
+    AFX_MODULE_STATE* state = AfxGetModuleState();
+    const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    return state && ::InitCommonControlsEx(&classes);
+}
+
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                       int nCmdShow) {
+    if (hPrevInstance || afx_internal::FailsHere(afx_internal::StartFault::winInit))
+        return FALSE;
+    ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+    AFX_MODULE_STATE* state = AfxGetModuleState();
+    state->m_hCurrentInstanceHandle = hInstance;
+    state->m_hCurrentResourceHandle = hInstance;
+    if (!state->m_bDLL && !state->m_hLanguageModule)
+        state->m_hLanguageModule = afx_internal::LoadLanguageModule(hInstance);
+    if (CWinApp* app = state->m_pCurrentWinApp) {
+        app->m_hInstance = hInstance;
+        app->m_lpCmdLine = lpCmdLine;
+        app->m_nCmdShow = nCmdShow;
+        app->SetCurrentHandles();
+    }
+    return TRUE;
+}
+
+void AFXAPI AfxWinTerm() {
+    AFX_MODULE_STATE* state = AfxGetModuleState();
+    if (state->m_hLanguageModule) {
+        ::FreeLibrary(state->m_hLanguageModule);
+        state->m_hLanguageModule = nullptr;
+    }
+    state->m_hCurrentInstanceHandle = nullptr;
+    state->m_hCurrentResourceHandle = nullptr;
+    if (!state->m_bDLL)
+        AfxTermThread();
+}
+
+void AFXAPI AfxTermThread(HINSTANCE) {
+    afx_internal::DeleteTemporaryObjects();
+}

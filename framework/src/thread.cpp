@@ -1,0 +1,95 @@
+#include "afxrt/thread.h"
+
+#include "afxrt/handle_map.h"
+#include "afxrt/wnd.h"
+#include "thread_state.h"
+
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+
+CWinThread::CWinThread() : m_hThread(::GetCurrentThread()), m_nThreadID(::GetCurrentThreadId()) {}
+
+CWinThread::~CWinThread() = default;
+
+BOOL CWinThread::InitInstance() {
+    return FALSE;
+}
+
+int CWinThread::ExitInstance() {
+    return static_cast<int>(afx_internal::CurrentThread().currentMessage.wParam);
+}
+
+int CWinThread::Run() {
+    LONG idleCount = 0;
+    bool idle = true;
+    for (;;) {
+        MSG message;
+        while (idle && !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+            idle = OnIdle(idleCount++) != FALSE;
+        do {
+            if (!PumpMessage())
+                return ExitInstance();
+            if (IsIdleMessage(&afx_internal::CurrentThread().currentMessage)) {
+                idle = true;
+                idleCount = 0;
+            }
+        } while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE));
+    }
+}
+
+BOOL CWinThread::PumpMessage() {
+    MSG message;
+    const BOOL more = ::GetMessage(&message, nullptr, 0, 0) > 0;
+    afx_internal::CurrentThread().currentMessage = message;
+    if (!more)
+        return FALSE;
+    if (message.message != WM_KICKIDLE && !PreTranslateMessage(&message)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessage(&message);
+    }
+    return TRUE;
+}
+
+BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
+    // From the window that the message is for up to its top-level window, each may take it.
+    for (HWND window = pMsg->hwnd; window; window = ::GetAncestor(window, GA_PARENT)) {
+        CWnd* object = CWnd::FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(pMsg))
+            return TRUE;
+        if (!(::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD))
+            break;
+    }
+    return FALSE;
+}
+
+BOOL CWinThread::OnIdle(LONG lCount) {
+    if (lCount <= 0)
+        return TRUE;
+    afx_internal::DeleteTemporaryObjects();
+    return FALSE;
+}
+
+BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
+    // Blinking carets and a mouse that stays where it is bring no work.
+    constexpr UINT systemTimer = 0x0118;
+    return pMsg->message != WM_PAINT && pMsg->message != WM_TIMER && pMsg->message != systemTimer;
+}
+
+LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
+    // WM_CREATE's failure must reach the system, or the window would live on half made.
+    if (pMsg->message == WM_CREATE)
+        return -1;
+    if (pMsg->message == WM_PAINT)
+        ::ValidateRect(pMsg->hwnd, nullptr); // or it would come again at once, for ever
+    // A user exception has told the user already.
+    if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
+        e->ReportError(MB_ICONSTOP);
+    return 0;
+}
+
+CWnd* CWinThread::GetMainWnd() {
+    return m_pMainWnd;
+}
+
+BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
+}

@@ -1,0 +1,65 @@
+// The host wants no row of controls: the dialog opens without it, what was below has moved up, and
+// the window is lower by as much.
+#include "cuadros/frame/Compacta.h"
+
+#include "DialogoPrueba.h"
+#include "kit/kit.h"
+
+namespace {
+
+RECT Desplazado(RECT marco, int x, int y) {
+    OffsetRect(&marco, x, y);
+    return marco;
+}
+
+bool operator==(const RECT& uno, const RECT& otro) {
+    return EqualRect(&uno, &otro);
+}
+
+RECT MarcoDe(CWnd& dialogo, int control) {
+    CRect marco;
+    dialogo.GetDlgItem(control)->GetWindowRect(&marco);
+    return marco;
+}
+
+} // namespace
+
+TEST(Compacta, HeightBetweenTwoControlsIsThatOfTheirTops) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        const int altura = Cuadros::AlturaEntre(prueba, IDC_PRUEBA_FILA_QUITA, IDC_PRUEBA_TEXTO);
+        EXPECT_EQ(altura, MarcoDe(prueba, IDC_PRUEBA_TEXTO).top -
+                              MarcoDe(prueba, IDC_PRUEBA_FILA_QUITA).top);
+        EXPECT_GT(altura, 0);
+        EXPECT_EQ(Cuadros::AlturaEntre(prueba, IDC_PRUEBA_TEXTO, IDC_PRUEBA_FILA_QUITA), -altura);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Compacta, RaisedControlsKeepLeftEdgeAndSize) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        const RECT texto = MarcoDe(prueba, IDC_PRUEBA_TEXTO);
+        const RECT aceptar = MarcoDe(prueba, IDOK);
+        const RECT cancelar = MarcoDe(prueba, IDCANCEL);
+        Cuadros::Sube(prueba, 20, {IDC_PRUEBA_TEXTO, IDOK});
+        EXPECT_TRUE(MarcoDe(prueba, IDC_PRUEBA_TEXTO) == Desplazado(texto, 0, -20));
+        EXPECT_TRUE(MarcoDe(prueba, IDOK) == Desplazado(aceptar, 0, -20));
+        EXPECT_TRUE(MarcoDe(prueba, IDCANCEL) == cancelar);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Compacta, ShrunkWindowKeepsItsPlaceAndWidth) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        CRect antes;
+        prueba.GetWindowRect(&antes);
+        Cuadros::Encoge(prueba, 25);
+        CRect despues;
+        prueba.GetWindowRect(&despues);
+        antes.bottom -= 25;
+        EXPECT_EQ(despues, antes);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}

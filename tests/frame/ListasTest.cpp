@@ -1,0 +1,120 @@
+// The user chooses rows of a report list, and the dialog takes the entries that they stand for.
+#include "cuadros/frame/Listas.h"
+
+#include "DialogoPrueba.h"
+#include "kit/kit.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Filas = std::vector<int>;
+
+void AbreConFilas(CDialogoPrueba& prueba, int filas) {
+    Cuadros::PreparaLista(prueba.m_Lista, {{IDS_PRUEBA_COLUMNA, LVCFMT_LEFT, 60},
+                                           {IDS_PRUEBA_COLUMNA2, LVCFMT_RIGHT, 80}});
+    const Cuadros::ListaSinDibujar quieta(prueba.m_Lista);
+    for (int i = 0; i < filas; ++i) {
+        CString texto;
+        texto.Format(L"row %d", i);
+        EXPECT_EQ(Cuadros::InsertaFila(prueba.m_Lista, i, texto), i);
+    }
+}
+
+std::vector<unsigned int> Recorridas(const CListCtrl& lista, unsigned int filas) {
+    std::vector<unsigned int> indices;
+    Cuadros::RecorreSeleccion(lista, filas, [&](unsigned int i) { indices.push_back(i); });
+    return indices;
+}
+
+} // namespace
+
+TEST(Listas, HaveTheirColumnsGridLinesAndFullRows) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 0); });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        const auto lista = vista.list(IDC_PRUEBA_LISTA);
+        ASSERT_EQ(lista.columns(), 2);
+        EXPECT_EQ(lista.heading(0), L"First column");
+        EXPECT_EQ(lista.heading(1), L"Second column");
+        EXPECT_EQ(lista.width(0), 60);
+        EXPECT_EQ(lista.width(1), 80);
+        LVCOLUMNW columna{};
+        columna.mask = LVCF_FMT;
+        ListView_GetColumn(lista.handle(), 1, &columna);
+        EXPECT_EQ(columna.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_RIGHT);
+        EXPECT_EQ(ListView_GetExtendedListViewStyle(lista.handle()), 33U);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, RowsHaveTheFirstStateImageAndAtMost259Characters) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 2);
+        Cuadros::InsertaFila(prueba.m_Lista, 2, CString(L'x', 300));
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        const auto lista = vista.list(IDC_PRUEBA_LISTA);
+        EXPECT_EQ(lista.text(0), L"row 0");
+        EXPECT_EQ(lista.text(2), std::wstring(259, L'x'));
+        EXPECT_EQ(ListView_GetItemState(lista.handle(), 1, LVIS_STATEIMAGEMASK), 0x1000U);
+        EXPECT_EQ(lista.selected(), Filas{});
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, AreDrawnAgainOnceTheyAreFilled) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 3); });
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        prueba.m_Lista.UpdateWindow();
+        {
+            const Cuadros::ListaSinDibujar quieta(prueba.m_Lista);
+            prueba.m_Lista.SetItemText(0, 1, L"changed");
+        }
+        EXPECT_TRUE(GetUpdateRect(prueba.m_Lista.m_hWnd, nullptr, FALSE));
+        EXPECT_TRUE(prueba.m_Lista.IsWindowVisible());
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, AllOrNoneOfTheRowsAreSelected) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 4);
+        EXPECT_FALSE(Cuadros::HaySeleccion(prueba.m_Lista));
+        Cuadros::SeleccionaFilas(prueba.m_Lista, 4, true);
+        EXPECT_TRUE(Cuadros::HaySeleccion(prueba.m_Lista));
+        EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{0, 1, 2, 3}));
+        Cuadros::SeleccionaFilas(prueba.m_Lista, 3, false);
+        EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{3}));
+        Cuadros::SeleccionaFilas(prueba.m_Lista, 4, false);
+        EXPECT_FALSE(Cuadros::HaySeleccion(prueba.m_Lista));
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Listas, SelectionIsWalkedInTheOrderOfTheRows) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 5); });
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        EXPECT_EQ(Recorridas(prueba.m_Lista, 5), (std::vector<unsigned int>{0, 2, 4}));
+        // Of a shorter table only the entries that it has.
+        EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{0, 2}));
+        EXPECT_EQ(Recorridas(prueba.m_Lista, 0), (std::vector<unsigned int>{}));
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.list(IDC_PRUEBA_LISTA).choose({4, 0, 2});
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}

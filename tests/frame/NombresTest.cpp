@@ -1,0 +1,95 @@
+// The user selects several files in the host's prompt; what comes back is one line of names. These
+// tests read such lines as the dialogs do.
+#include "cuadros/frame/Nombres.h"
+
+#include "kit/kit.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::vector<std::wstring> Separados(const wchar_t* linea) {
+    std::vector<std::wstring> nombres;
+    for (const CString& nombre : Cuadros::ListaNombres(CString(linea)))
+        nombres.emplace_back(nombre.GetString());
+    return nombres;
+}
+
+int Cuenta(const wchar_t* linea) {
+    return Cuadros::CuentaNombres(CString(linea));
+}
+
+using Nombres = std::vector<std::wstring>;
+
+} // namespace
+
+TEST(Nombres, AreSeparatedByBlanksLineEndsAndByteOrderMarks) {
+    EXPECT_EQ(Separados(L"a.dat b.dat"), (Nombres{L"a.dat", L"b.dat"}));
+    EXPECT_EQ(Separados(L"a\r\nb\nc\r\n"), (Nombres{L"a", L"b", L"c"}));
+    EXPECT_EQ(Separados(L"\uFEFFa\uFEFFb"), (Nombres{L"a", L"b"}));
+    EXPECT_EQ(Separados(L"   a   b   "), (Nombres{L"a", L"b"}));
+}
+
+TEST(Nombres, EmptyLineAndBlanksHoldNone) {
+    EXPECT_EQ(Cuenta(L""), 0);
+    EXPECT_EQ(Cuenta(L" \r\n \uFEFF"), 0);
+    EXPECT_TRUE(Separados(L"").empty());
+}
+
+TEST(Nombres, TabIsPartOfAName) {
+    EXPECT_EQ(Cuenta(L"a\tb"), 1);
+    EXPECT_EQ(Separados(L"a\tb c"), (Nombres{L"a\tb", L"c"}));
+}
+
+TEST(Nombres, QuotedNameKeepsItsSeparators) {
+    EXPECT_EQ(Cuenta(L"\"two words\""), 1);
+    EXPECT_EQ(Separados(L"\"C:\\my files\\a.dat\" b"), (Nombres{L"C:\\my files\\a.dat", L"b"}));
+}
+
+TEST(Nombres, OpeningQuoteEndsTheNameBeforeIt) {
+    EXPECT_EQ(Cuenta(L"text\"quoted one\""), 2);
+    EXPECT_EQ(Separados(L"abc\"d e\"f"), (Nombres{L"abc", L"d e", L"f"}));
+    EXPECT_EQ(Separados(L"\"a\"\"b\""), (Nombres{L"a", L"b"}));
+}
+
+TEST(Nombres, QuotesAloneAreAnEmptyName) {
+    EXPECT_EQ(Separados(L"\"\""), (Nombres{L""}));
+    EXPECT_EQ(Separados(L"\""), (Nombres{L""}));
+    EXPECT_EQ(Separados(L"a \"\" b"), (Nombres{L"a", L"", L"b"}));
+}
+
+TEST(Nombres, UnterminatedQuoteEndsWithTheLine) {
+    EXPECT_EQ(Separados(L"\"unterminated name"), (Nombres{L"unterminated name"}));
+}
+
+TEST(Nombres, FewerWantedThanThereAreLeavesTheRest) {
+    std::array<CString, 3> nombres{L"x", L"y", L"z"};
+    EXPECT_EQ(Cuadros::SeparaNombres(CString(L"a b c"), 2, nombres.data()), 2);
+    EXPECT_EQ(nombres[0], L"a");
+    EXPECT_EQ(nombres[1], L"b");
+    EXPECT_EQ(nombres[2], L"z");
+}
+
+TEST(Nombres, MoreWantedThanThereAreEmptiesThem) {
+    std::array<CString, 3> nombres{L"x", L"y", L"z"};
+    EXPECT_EQ(Cuadros::SeparaNombres(CString(L"a"), 2, nombres.data()), 1);
+    EXPECT_EQ(nombres[0], L"a");
+    EXPECT_TRUE(nombres[1].IsEmpty());
+    EXPECT_EQ(nombres[2], L"z");
+}
+
+TEST(Nombres, BlanksEmptyTheWantedNames) {
+    CString nombre(L"x");
+    EXPECT_EQ(Cuadros::SeparaNombres(CString(L"  "), 1, &nombre), 0);
+    EXPECT_TRUE(nombre.IsEmpty());
+}
+
+TEST(Nombres, NothingIsTouchedWithoutALineOrAWantedCount) {
+    CString nombre(L"kept");
+    EXPECT_EQ(Cuadros::SeparaNombres(CString(), 1, &nombre), 0);
+    EXPECT_EQ(nombre, L"kept");
+    EXPECT_EQ(Cuadros::SeparaNombres(CString(L"a b"), 0, &nombre), 0);
+    EXPECT_EQ(nombre, L"kept");
+}

@@ -1,0 +1,666 @@
+// A surveyor is about to triangulate. He sees the codes of his survey in a list, all of them
+// selected, and beside it the same codes as breaklines. He takes a code out of the first list, and
+// it leaves the second one too; he deselects the codes that are no breaklines; he types the
+// elevation limits, the distance within which lines are not joined, and the network's name. OK
+// checks what he typed, says what is wrong and waits, or closes and leaves it all in the record.
+#include "cuadros/triangulation/TriangulacionDlg.h"
+
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
+#include "cuadros/resources/TriangulationIds.h"
+#include "kit/kit.h"
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Cotana::CDataTriangulacion;
+using Cotana::CDigiTab;
+using Cotana::CElementoDigiTab;
+using Cotana::CTriangulacionDlg;
+using Filas = std::vector<int>;
+using Textos = std::vector<std::wstring>;
+
+constexpr int Codigos = IDC_TRIANGULACION_CODIGOS;
+constexpr int Rupturas = IDC_TRIANGULACION_RUPTURAS;
+
+CDigiTab Tabla(std::initializer_list<std::pair<CString, CString>> entradas) {
+    CDigiTab tabla;
+    for (const auto& [codigo, nemotecnico] : entradas)
+        tabla.Inserta(CElementoDigiTab(codigo, nemotecnico), true);
+    return tabla;
+}
+
+Textos CodigosDe(const CDigiTab& tabla) {
+    Textos codigos;
+    for (unsigned int i = 0; i < tabla.Cantidad(); ++i)
+        codigos.emplace_back(tabla[i].GetCodigo().GetString());
+    return codigos;
+}
+
+CString Texto(UINT numero) {
+    CString texto;
+    EXPECT_TRUE(texto.LoadString(numero)) << "text " << numero;
+    return texto;
+}
+
+CString TextoDeNumeroMalo() {
+    return Texto(AFX_IDP_PARSE_REAL);
+}
+
+class TriangulacionDlg : public testing::Test {
+protected:
+    TriangulacionDlg() {
+        data.m_LimiteInferior = 10;
+        data.m_LimiteSuperior = 250.5;
+        data.m_DistanciaNoUnir = 5;
+        data.m_ParametroExtra = -2.25;
+        data.m_TipoRuptura = 2;
+        data.m_Nombre = L"North slope";
+        data.m_Rupturas = TRUE;
+        data.m_NoUnirCurvas = TRUE;
+        data.m_Codigos =
+            Tabla({{L"RD", L"Road edge"}, {L"WL", L"Wall"}, {L"TR", L"Tree"}, {L"CT", L"Contour"}});
+        data.m_CodigosExtra1 = Tabla({{L"X1", L"First extra"}});
+        data.m_CodigosExtra2 = Tabla({{L"X2", L"Second extra"}});
+    }
+
+    /// Opens the dialog, does `paso` in it, and returns what `DoModal` returned. A step that
+    /// presses neither button is followed by Cancel.
+    INT_PTR Abre(const std::function<void(kit::Dialog&)>& paso) {
+        script.onDialog(paso);
+        return Abre();
+    }
+    INT_PTR Abre() {
+        return script.run([this] { return CTriangulacionDlg(data).DoModal(); });
+    }
+
+    void EsperaRechazo(UINT mensaje, kit::Where donde = kit::Where::current()) {
+        script.expectMessage(Texto(IDS_TITULO_MENSAJES), Texto(mensaje), MB_ICONERROR, donde)
+            .buttons(MB_OK)
+            .ownedByDialog();
+    }
+
+    /// The framework's own refusal of a text that is no number.
+    void EsperaNumeroMalo(kit::Where donde = kit::Where::current()) {
+        script.expectMessage(AfxGetAppName(), TextoDeNumeroMalo(), MB_ICONEXCLAMATION, donde);
+    }
+
+    CDataTriangulacion data;
+    kit::Script script;
+};
+
+const Textos CuatroCodigos = {L"RD", L"WL", L"TR", L"CT"};
+const Textos Ninguno;
+
+// What the user sees first.
+
+TEST_F(TriangulacionDlg, ShowsEveryCodeSelectedInBothLists) {
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {Codigos, Rupturas}) {
+            const auto lista = dialogo.list(control);
+            EXPECT_EQ(lista.column(0), CuatroCodigos);
+            EXPECT_EQ(lista.column(1), (Textos{L"Road edge", L"Wall", L"Tree", L"Contour"}));
+            EXPECT_EQ(lista.selected(), (Filas{0, 1, 2, 3}));
+        }
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.picture(L"TriangulacionDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, ListsHaveTwoColumnsWithGridLinesAndFullRows) {
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {Codigos, Rupturas}) {
+            const auto lista = dialogo.list(control);
+            ASSERT_EQ(lista.columns(), 2);
+            EXPECT_EQ(lista.heading(0), kit::Text(Texto(IDS_COLUMNA_CODIGO)));
+            EXPECT_EQ(lista.heading(1), kit::Text(Texto(IDS_COLUMNA_NEMOTECNICO)));
+            EXPECT_EQ(lista.width(0), 100);
+            EXPECT_EQ(lista.width(1), 230);
+            for (int i = 0; i < 2; ++i) {
+                LVCOLUMNW columna{};
+                columna.mask = LVCF_FMT;
+                ListView_GetColumn(lista.handle(), i, &columna);
+                EXPECT_EQ(columna.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_LEFT);
+            }
+            EXPECT_EQ(ListView_GetExtendedListViewStyle(lista.handle()),
+                      DWORD{LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT});
+        }
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, RowsHaveTheFirstStateImageAndTheFirstImage) {
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {Codigos, Rupturas}) {
+            LVITEMW fila{};
+            fila.mask = LVIF_STATE | LVIF_IMAGE;
+            fila.iItem = 1;
+            fila.stateMask = LVIS_STATEIMAGEMASK;
+            ASSERT_TRUE(ListView_GetItem(dialogo.list(control).handle(), &fila));
+            EXPECT_EQ(fila.state, 0x1000U);
+            EXPECT_EQ(fila.iImage, 0);
+        }
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, ShowsTheRecord) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_NOMBRE), L"North slope");
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_INFERIOR), L"10");
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_DISTANCIA_NO_UNIR), L"5");
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_PARAMETRO_EXTRA), L"-2.25");
+        EXPECT_TRUE(dialogo.checked(IDC_TRIANGULACION_USAR_RUPTURAS));
+        EXPECT_TRUE(dialogo.checked(IDC_TRIANGULACION_NO_UNIR_CURVAS));
+        EXPECT_EQ(dialogo.radio(IDC_TRIANGULACION_TIPO_RUPTURA_1, IDC_TRIANGULACION_TIPO_RUPTURA_4),
+                  IDC_TRIANGULACION_TIPO_RUPTURA_3);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, HasItsSmallIconOnly) {
+    Abre([](kit::Dialog& dialogo) {
+        const auto nombre = MAKEINTRESOURCEW(IDI_TRIANGULACION);
+        const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
+        ASSERT_NE(propio, nullptr);
+        const auto icono = [&](WPARAM cual) {
+            return reinterpret_cast<HICON>(SendMessageW(dialogo.handle(), WM_GETICON, cual, 0));
+        };
+        EXPECT_EQ(icono(ICON_SMALL), propio);
+        EXPECT_EQ(icono(ICON_BIG), nullptr);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, BreaklinesOfTheHostAreDiscardedAtOpening) {
+    data.m_CodigosRuptura = Tabla({{L"ZZ", L"Not in the survey"}, {L"WL", L"Wall"}});
+    Abre([this](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), CuatroCodigos);
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), CuatroCodigos);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, EmptyTablesDisableOk) {
+    data.m_Codigos.clear();
+    EsperaRechazo(IDS_SIN_CODIGOS);
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.list(Codigos).rows(), 0);
+        EXPECT_EQ(dialogo.list(Rupturas).rows(), 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        dialogo.press(IDC_TRIANGULACION_TODAS_RUPTURAS);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.command(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// No row is there to be selected, so that nothing rebuilds the breaklines.
+TEST_F(TriangulacionDlg, WithoutCodesTheBreaklinesOfTheHostStayUnseen) {
+    data.m_Codigos.clear();
+    data.m_CodigosRuptura = Tabla({{L"WL", L"Wall"}});
+    EsperaRechazo(IDS_SIN_CODIGOS);
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.list(Rupturas).rows(), 0);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), Textos{L"WL"});
+}
+
+TEST_F(TriangulacionDlg, CodeBeyond259CharactersIsCutInTheListsOnly) {
+    const CString largo(L'k', 300);
+    data.m_Codigos = Tabla({{largo, L"Long"}, {L"RD", L"Road edge"}});
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.list(Codigos).text(0), std::wstring(259, L'k'));
+        EXPECT_EQ(dialogo.list(Rupturas).text(0), std::wstring(259, L'k'));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Codigos[0].GetCodigo(), largo);
+    EXPECT_EQ(data.m_CodigosRuptura[0].GetCodigo(), largo);
+}
+
+TEST_F(TriangulacionDlg, NumbersAreRoundedTo15DigitsAtOpening) {
+    data.m_LimiteSuperior = 0.1 + 0.2;
+    data.m_LimiteInferior = -1;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"0.3");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(data.m_LimiteSuperior, 0.3);
+}
+
+// Choosing codes.
+
+TEST_F(TriangulacionDlg, NoCodeDisablesOkAndAllCodesEnableIt) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        EXPECT_EQ(dialogo.list(Codigos).selected(), Filas{});
+        EXPECT_EQ(dialogo.list(Rupturas).rows(), 0);
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), Ninguno);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+
+        dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
+        EXPECT_EQ(dialogo.list(Codigos).selected(), (Filas{0, 1, 2, 3}));
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), CuatroCodigos);
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, SelectionInAnyOrderKeepsTheOrderOfTheTable) {
+    const auto resultado = Abre([this](kit::Dialog& dialogo) {
+        dialogo.list(Codigos).choose({3, 0, 2});
+        EXPECT_EQ(dialogo.list(Codigos).selected(), (Filas{0, 2, 3}));
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), (Textos{L"RD", L"TR", L"CT"}));
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
+        EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR", L"CT"}));
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
+}
+
+TEST_F(TriangulacionDlg, DuplicateCodesAreRowsOfTheirOwn) {
+    data.m_Codigos = Tabla({{L"RD", L"Left edge"}, {L"RD", L"Right edge"}, {L"WL", L"Wall"}});
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.list(Rupturas).column(1), (Textos{L"Left edge", L"Right edge", L"Wall"}));
+        dialogo.list(Codigos).select(0, false);
+        EXPECT_EQ(dialogo.list(Rupturas).column(1), (Textos{L"Right edge", L"Wall"}));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    ASSERT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"WL"}));
+    EXPECT_EQ(data.m_Codigos[0].GetNemotecnico(), L"Right edge");
+}
+
+// Choosing breaklines.
+
+TEST_F(TriangulacionDlg, BreaklineButtonsSelectAndDeselectWithoutTouchingTheRecord) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), Filas{});
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), CuatroCodigos);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDC_TRIANGULACION_TODAS_RUPTURAS);
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, DeselectedBreaklinesStayOutOnOk) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Rupturas).choose({3, 1});
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"WL", L"CT"}));
+}
+
+TEST_F(TriangulacionDlg, OkTakesNoBreaklineAtAll) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), Ninguno);
+}
+
+TEST_F(TriangulacionDlg, ChangedCodesSelectEveryBreaklineAgain) {
+    Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Rupturas).choose({1});
+        dialogo.list(Codigos).select(3, false);
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), (Textos{L"RD", L"WL", L"TR"}));
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, FocusedCodeSelectsEveryBreaklineAgain) {
+    Abre([](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        ListView_SetItemState(dialogo.list(Codigos).handle(), 2, LVIS_FOCUSED, LVIS_FOCUSED);
+        EXPECT_EQ(dialogo.list(Codigos).selected(), (Filas{0, 1, 2, 3}));
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// The two check boxes and what they enable.
+
+constexpr int DeRupturas[] = {IDC_TRIANGULACION_RUPTURAS,        IDC_TRIANGULACION_TODAS_RUPTURAS,
+                              IDC_TRIANGULACION_NINGUNA_RUPTURA, IDC_TRIANGULACION_TIPO_RUPTURA_1,
+                              IDC_TRIANGULACION_TIPO_RUPTURA_2,  IDC_TRIANGULACION_TIPO_RUPTURA_3,
+                              IDC_TRIANGULACION_TIPO_RUPTURA_4};
+
+TEST_F(TriangulacionDlg, UseOfBreaklinesEnablesTheirControls) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_FALSE(data.m_Rupturas);
+        for (const int control : DeRupturas)
+            EXPECT_FALSE(dialogo.enabled(control)) << control;
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_TRUE(data.m_Rupturas);
+        for (const int control : DeRupturas)
+            EXPECT_TRUE(dialogo.enabled(control)) << control;
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, UnusedBreaklinesStartDisabledAndStillComeBack) {
+    data.m_Rupturas = FALSE;
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        for (const int control : DeRupturas)
+            EXPECT_FALSE(dialogo.enabled(control)) << control;
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_FALSE(data.m_Rupturas);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), CuatroCodigos);
+}
+
+TEST_F(TriangulacionDlg, UnjoinedLinesEnableTheirDistance) {
+    Abre([this](kit::Dialog& dialogo) {
+        EXPECT_TRUE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        EXPECT_FALSE(data.m_NoUnirCurvas);
+        EXPECT_FALSE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        EXPECT_TRUE(data.m_NoUnirCurvas);
+        EXPECT_TRUE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, JoinedLinesStartWithTheirDistanceDisabled) {
+    data.m_NoUnirCurvas = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, TreatmentIsTheIndexOfItsButton) {
+    for (int i = 0; i < 4; ++i) {
+        kit::Script guion;
+        guion.onDialog([i](kit::Dialog& dialogo) {
+            dialogo.click(IDC_TRIANGULACION_TIPO_RUPTURA_1 + i);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(guion.run([this] { return CTriangulacionDlg(data).DoModal(); }), IDOK);
+        EXPECT_EQ(data.m_TipoRuptura, i);
+    }
+}
+
+TEST_F(TriangulacionDlg, NoTreatmentStaysNone) {
+    data.m_TipoRuptura = -1;
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.radio(IDC_TRIANGULACION_TIPO_RUPTURA_1, IDC_TRIANGULACION_TIPO_RUPTURA_4),
+                  0);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoRuptura, -1);
+}
+
+// OK.
+
+TEST_F(TriangulacionDlg, OkLeavesEverythingInTheRecord) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"South slope");
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"-12.5");
+        dialogo.type(IDC_TRIANGULACION_LIMITE_SUPERIOR, L"1e3");
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"0.75");
+        dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"0");
+        dialogo.click(IDC_TRIANGULACION_TIPO_RUPTURA_2);
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Nombre, L"South slope");
+    EXPECT_EQ(data.m_LimiteInferior, -12.5);
+    EXPECT_EQ(data.m_LimiteSuperior, 1000);
+    EXPECT_EQ(data.m_DistanciaNoUnir, 0.75);
+    EXPECT_EQ(data.m_ParametroExtra, 0);
+    EXPECT_EQ(data.m_TipoRuptura, 1);
+    EXPECT_FALSE(data.m_NoUnirCurvas);
+    EXPECT_FALSE(data.m_Rupturas);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Ninguno);
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra2), Ninguno);
+}
+
+TEST_F(TriangulacionDlg, ChecksComeInTheirOrder) {
+    EsperaRechazo(IDS_SIN_CODIGOS);
+    EsperaRechazo(IDS_LIMITES_NO_CRECIENTES);
+    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
+    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"300");
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"-1");
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
+        dialogo.command(IDOK);
+        dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
+        dialogo.press(IDOK);
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"10");
+        dialogo.press(IDOK);
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"1");
+        dialogo.press(IDOK);
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"n");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+}
+
+TEST_F(TriangulacionDlg, RefusalMovesNoFocus) {
+    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
+    Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
+        dialogo.focusOn(IDC_TRIANGULACION_PARAMETRO_EXTRA);
+        dialogo.command(IDOK);
+        EXPECT_EQ(dialogo.focus(), IDC_TRIANGULACION_PARAMETRO_EXTRA);
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_NOMBRE), L"");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, EqualLimitsAreRefused) {
+    EsperaRechazo(IDS_LIMITES_NO_CRECIENTES);
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"250.5");
+        dialogo.press(IDOK);
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"250.499");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+}
+
+TEST_F(TriangulacionDlg, DistanceMustBePositiveAlsoWhenItIsDisabled) {
+    data.m_NoUnirCurvas = FALSE;
+    data.m_DistanciaNoUnir = 1e-7;
+    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
+TEST_F(TriangulacionDlg, DistanceJustAboveTheToleranceIsTaken) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"1.1e-7");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_DistanciaNoUnir, 1.1e-7);
+}
+
+TEST_F(TriangulacionDlg, RefusedOkKeepsTheCodeTableAndWhatWasTyped) {
+    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Codigos).choose({0, 2});
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
+        dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"7");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Textos{L"X1"});
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra2), Textos{L"X2"});
+    EXPECT_TRUE(data.m_Nombre.IsEmpty());
+    EXPECT_EQ(data.m_ParametroExtra, 7);
+}
+
+// Cancel.
+
+TEST_F(TriangulacionDlg, CancelWithoutAClickKeepsTheRecord) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"Typed");
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"11");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Nombre, L"North slope");
+    EXPECT_EQ(data.m_LimiteInferior, 10);
+}
+
+TEST_F(TriangulacionDlg, CancelKeepsWhatAClickExchanged) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"Typed");
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"11");
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Nombre, L"Typed");
+    EXPECT_EQ(data.m_LimiteInferior, 11);
+    EXPECT_FALSE(data.m_NoUnirCurvas);
+}
+
+TEST_F(TriangulacionDlg, CancelKeepsTheBreaklinesOfTheLastSelection) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Codigos).choose({1, 2});
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"WL", L"TR"}));
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+}
+
+// Texts that are no numbers.
+
+TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
+    EsperaNumeroMalo();
+    EsperaNumeroMalo();
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Codigos).choose({0, 2});
+        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"low");
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"Typed");
+        dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"7");
+        dialogo.press(IDOK);
+        EXPECT_EQ(dialogo.focus(), IDC_TRIANGULACION_LIMITE_INFERIOR);
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_INFERIOR), L"low");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    // What is exchanged before the bad number was stored, what comes after it was not.
+    EXPECT_EQ(data.m_Nombre, L"Typed");
+    EXPECT_EQ(data.m_LimiteInferior, 10);
+    EXPECT_EQ(data.m_ParametroExtra, -2.25);
+    // The checks passed on the values of before, so that the tables are trimmed all the same.
+    EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR"}));
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Ninguno);
+}
+
+TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
+    data.m_DistanciaNoUnir = 0;
+    EsperaNumeroMalo();
+    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"5 m");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_DistanciaNoUnir, 0);
+}
+
+TEST_F(TriangulacionDlg, BadNumberIsRefusedAtAChangeOfTheCodesAndThenReplaced) {
+    // Once by the change itself, once by the rebuild of the breaklines, which then shows the
+    // record.
+    EsperaNumeroMalo();
+    EsperaNumeroMalo();
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_LIMITE_SUPERIOR, L"high");
+        dialogo.list(Codigos).select(1, false);
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// A host's own class on top of the dialog.
+
+class CDerivado : public CTriangulacionDlg {
+public:
+    using CTriangulacionDlg::CTriangulacionDlg;
+
+    void OnOK() override {
+        aplicacion = AfxGetApp();
+        CTriangulacionDlg::OnOK();
+    }
+
+    CWinApp* aplicacion = nullptr;
+};
+
+TEST_F(TriangulacionDlg, HostDerivesFromItAndRunsUnderItsOwnState) {
+    CDerivado derivado(data);
+    script.onDialog([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return derivado.DoModal(); }), IDOK);
+    EXPECT_EQ(derivado.aplicacion, AfxGetApp());
+    EXPECT_NE(derivado.aplicacion, nullptr);
+}
+
+TEST_F(TriangulacionDlg, HasNoClassInformationOfItsOwn) {
+    EXPECT_EQ(CTriangulacionDlg(data).GetRuntimeClass(), RUNTIME_CLASS(CDialog));
+}
+
+TEST_F(TriangulacionDlg, LeavesNothingBehind) {
+    const auto unaVez = [this] {
+        kit::Script guion;
+        guion.onDialog([](kit::Dialog& dialogo) {
+            dialogo.list(Codigos).select(1, false);
+            dialogo.press(IDCANCEL);
+        });
+        guion.run([this] { return CTriangulacionDlg(data).DoModal(); });
+    };
+    unaVez();
+    const auto antes = kit::Handles::now();
+    for (int i = 0; i < 5; ++i)
+        unaVez();
+    EXPECT_EQ(kit::Handles::now(), antes);
+}
+
+} // namespace

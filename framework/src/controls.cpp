@@ -188,9 +188,7 @@ void CListBox::GetText(int nIndex, CString& rString) const {
 }
 
 int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem) {
-    // The message with a word for each end of the range stops at 65535.
-    return bSelect ? Send<int>(m_hWnd, LB_SELITEMRANGEEX, nFirstItem, nLastItem)
-                   : Send<int>(m_hWnd, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
+    return Send<int>(m_hWnd, LB_SELITEMRANGE, bSelect, MAKELPARAM(nFirstItem, nLastItem));
 }
 
 UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const {

@@ -51,6 +51,14 @@ bool isIcon(HICON icon) {
     return true;
 }
 
+/// With heap checking on, the latest freed blocks of a heap stay in use for a while, to notice
+/// who still writes to them. Makes these the same in number and size each time.
+void settle(HANDLE heap) {
+    constexpr int delayed = 1024;
+    for (int i = 0; i < delayed; ++i)
+        HeapFree(heap, 0, HeapAlloc(heap, 0, sizeof(void*)));
+}
+
 } // namespace
 
 // The documented GetGuiResources is without function on Wine.
@@ -87,6 +95,7 @@ HeapUse HeapUse::now() {
     const DWORD number = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
     HeapUse use = {};
     for (const HANDLE heap : std::span(heaps).first(number)) {
+        settle(heap);
         HeapLock(heap);
         PROCESS_HEAP_ENTRY entry = {};
         while (HeapWalk(heap, &entry))

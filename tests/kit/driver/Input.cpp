@@ -1,5 +1,6 @@
 #include "kit/driver/Input.h"
 
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -36,12 +37,13 @@ public:
         return *this;
     }
 
-    Input& mouse(DWORD flags, POINT screen = {}) {
+    Input& mouse(DWORD flags, DWORD time, POINT screen = {}) {
         INPUT input = {};
         input.type = INPUT_MOUSE;
         input.mi.dx = screen.x;
         input.mi.dy = screen.y;
         input.mi.dwFlags = flags;
+        input.mi.time = time;
         inputs_.push_back(input);
         return *this;
     }
@@ -77,10 +79,23 @@ POINT absolute(HWND window, POINT place) {
             scale(place.y, GetSystemMetrics(SM_CYSCREEN))};
 }
 
-Input moved(HWND window, POINT place) {
+/// The time of the next click: later than the latest by more than makes a double click, however
+/// quickly a test clicks.
+DWORD nextClickTime() {
+    static DWORD latest = 0;
+    latest = std::max(GetTickCount(), latest + GetDoubleClickTime() + 1);
+    return latest;
+}
+
+/// Moves to a place and presses and releases a button so many times.
+void clickAt(HWND window, POINT place, DWORD down, DWORD up, int times, Held held) {
+    const DWORD time = nextClickTime();
     Input input;
-    input.mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, absolute(window, place));
-    return input;
+    input.mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, time, absolute(window, place));
+    input.hold(held, true);
+    for (int i = 0; i < times; ++i)
+        input.mouse(down, time).mouse(up, time);
+    input.hold(held, false).send();
 }
 
 } // namespace
@@ -105,29 +120,19 @@ void type(const Text& text) {
 namespace mouse {
 
 void move(HWND window, POINT place) {
-    moved(window, place).send();
+    Input().mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0, absolute(window, place)).send();
 }
 
 void click(HWND window, POINT place, Held held) {
-    moved(window, place)
-        .hold(held, true)
-        .mouse(MOUSEEVENTF_LEFTDOWN)
-        .mouse(MOUSEEVENTF_LEFTUP)
-        .hold(held, false)
-        .send();
+    clickAt(window, place, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 1, held);
 }
 
 void rightClick(HWND window, POINT place) {
-    moved(window, place).mouse(MOUSEEVENTF_RIGHTDOWN).mouse(MOUSEEVENTF_RIGHTUP).send();
+    clickAt(window, place, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, 1, Held::Nothing);
 }
 
 void doubleClick(HWND window, POINT place) {
-    moved(window, place)
-        .mouse(MOUSEEVENTF_LEFTDOWN)
-        .mouse(MOUSEEVENTF_LEFTUP)
-        .mouse(MOUSEEVENTF_LEFTDOWN)
-        .mouse(MOUSEEVENTF_LEFTUP)
-        .send();
+    clickAt(window, place, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, 2, Held::Nothing);
 }
 
 void click(HWND window) {

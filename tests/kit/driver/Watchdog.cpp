@@ -64,6 +64,8 @@ Watch& watch() {
 
 void guardThread(std::chrono::seconds limit) {
     Watch& w = watch();
+    // The windows of another desktop could not be seen from here.
+    SetThreadDesktop(GetThreadDesktop(w.thread));
     std::unique_lock lock(w.mutex);
     while (!w.over) {
         const Clock::time_point end = w.latest + limit;

@@ -74,12 +74,18 @@ bool suitesAreExactly(const std::string& list) {
     return same;
 }
 
+bool canShowWindows() {
+    const HWND window = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                                        nullptr, nullptr);
+    return window != nullptr && DestroyWindow(window);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     endOnFault();
-    if (!useOwnDesktop()) {
-        std::cerr << "There is no desktop for this process.\n";
+    if (!useOwnDesktop() || !canShowWindows()) {
+        std::cerr << "No window can be made here: the display or its driver is missing.\n";
         return EXIT_FAILURE;
     }
     testing::InitGoogleTest(&argc, argv);

@@ -1,0 +1,180 @@
+// What ends a test program from outside its tests: watched in a child process.
+#include "kit/FailuresOf.h"
+#include "kit/RawDialog.h"
+#include "kit/kit.h"
+
+#include <array>
+#include <cstdlib>
+#include <string>
+
+using kit::Dialog;
+using kit::Script;
+
+namespace {
+
+/// Runs this program again with other arguments, and keeps what it prints.
+class Child {
+public:
+    explicit Child(const std::wstring& arguments) {
+        std::array<wchar_t, MAX_PATH> program = {};
+        GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+        std::wstring line = L"\"" + std::wstring(program.data()) + L"\" " + arguments;
+
+        SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+        HANDLE reading = nullptr;
+        HANDLE writing = nullptr;
+        CreatePipe(&reading, &writing, &inherited, 0);
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdOutput = writing;
+        startup.hStdError = writing;
+        PROCESS_INFORMATION process = {};
+        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                           &startup, &process)) {
+            CloseHandle(writing);
+            std::array<char, 4096> buffer = {};
+            for (DWORD read = 0; ReadFile(reading, buffer.data(), static_cast<DWORD>(buffer.size()),
+                                          &read, nullptr) &&
+                                 read > 0;)
+                output.append(buffer.data(), read);
+            WaitForSingleObject(process.hProcess, INFINITE);
+            GetExitCodeProcess(process.hProcess, &exitCode);
+            CloseHandle(process.hThread);
+            CloseHandle(process.hProcess);
+        }
+        CloseHandle(reading);
+        std::erase(output, '\r');
+    }
+
+    DWORD exitCode = ~0U;
+    std::string output;
+};
+
+/// Runs one of the cases below that only a child runs.
+Child runCase(const std::wstring& name) {
+    return Child(L"--gtest_also_run_disabled_tests --gtest_filter=Process.DISABLED_" + name);
+}
+
+} // namespace
+
+TEST(Process, IsEndedByTheWatchdogWhenAStepNeverComes) {
+    SetEnvironmentVariableW(L"CUADROS_WATCHDOG_SECONDS", L"1");
+    const Child child = runCase(L"WaitsForAStepThatNeverComes");
+    SetEnvironmentVariableW(L"CUADROS_WATCHDOG_SECONDS", nullptr);
+    EXPECT_EQ(child.exitCode, kit::Watchdog::exitCode);
+    EXPECT_TRUE(contains(child.output, "watchdog: nothing has moved for 1 s"));
+    EXPECT_TRUE(contains(child.output, "waiting for a particular dialog (ProcessTest.cpp:"));
+    EXPECT_TRUE(contains(child.output, "#32770 \"Quiet\"")) << "the window tree";
+    EXPECT_TRUE(contains(child.output, "watchdog: picture of the active window: "));
+}
+
+TEST(Process, DISABLED_WaitsForAStepThatNeverComes) {
+    const RawDialog dialog = RawDialog(L"Quiet").button(IDCANCEL, L"Cancel");
+    Script script;
+    script.patience(1'000'000);
+    script.onDialog([](Dialog&) {});
+    script.onDialog(kit::titled(L"Another"), [](Dialog&) {});
+    script.run([&] { return dialog.open(); });
+    FAIL() << "the watchdog should have ended this process";
+}
+
+TEST(Process, IsEndedByTheWatchdogWhenAHandlerNeverReturns) {
+    SetEnvironmentVariableW(L"CUADROS_WATCHDOG_SECONDS", L"1");
+    const Child child = runCase(L"PressesAButtonThatNeverReturns");
+    SetEnvironmentVariableW(L"CUADROS_WATCHDOG_SECONDS", nullptr);
+    EXPECT_EQ(child.exitCode, kit::Watchdog::exitCode);
+    EXPECT_TRUE(contains(child.output, "waiting for the end of the step at ProcessTest.cpp:"));
+    EXPECT_TRUE(contains(child.output, "#32770 \"Stuck\""));
+}
+
+TEST(Process, DISABLED_PressesAButtonThatNeverReturns) {
+    const RawDialog dialog = RawDialog(L"Stuck").button(101, L"Hang").onCommand([](HWND, int, int) {
+        WaitForSingleObject(GetCurrentThread(), INFINITE);
+    });
+    Script script;
+    script.onDialog([](Dialog& d) { d.press(101); });
+    script.run([&] { return dialog.open(); });
+    FAIL() << "the watchdog should have ended this process";
+}
+
+TEST(Process, EndsOnAFaultInAWindowProcedure) {
+    const Child child = runCase(L"ReadsFromNowhere");
+    EXPECT_EQ(child.exitCode, kit::faultExitCode);
+    EXPECT_TRUE(contains(child.output, "fault 0xc0000005"));
+    EXPECT_TRUE(contains(child.output, "kit_test.exe+0x"));
+}
+
+TEST(Process, DISABLED_ReadsFromNowhere) {
+    const RawDialog dialog = RawDialog(L"Fault").onInit([](HWND) {
+        volatile int* volatile nowhere = nullptr;
+        *nowhere = 1;
+    });
+    Script script;
+    script.run([&] { return dialog.open(); });
+    FAIL() << "the fault should have ended this process";
+}
+
+TEST(Process, FailsATestThatLeavesAWindowOver) {
+    const Child child = runCase(L"LeavesAWindowOver");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "A window is left over:\nStatic \"Left\""));
+}
+
+TEST(Process, DISABLED_LeavesAWindowOver) {
+    EXPECT_NE(CreateWindowExW(0, L"Static", L"Left", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                              nullptr, nullptr),
+              nullptr);
+}
+
+TEST(Process, FailsATestThatDamagesTheHeap) {
+    const Child child = runCase(L"DamagesTheHeap");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "The heap is damaged"));
+}
+
+TEST(Process, DISABLED_DamagesTheHeap) {
+    auto* volatile block = static_cast<char*>(std::malloc(24));
+    ASSERT_NE(block, nullptr);
+    block[24] = 'x';
+}
+
+TEST(Process, FailsATestWhoseScriptFails) {
+    const Child child = runCase(L"MeetsAnUnexpectedMessage");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "An unexpected message box: \"C\" \"T\""));
+}
+
+TEST(Process, DISABLED_MeetsAnUnexpectedMessage) {
+    Script script;
+    EXPECT_EQ(script.run([] { return MessageBoxW(nullptr, L"T", L"C", MB_OK); }), IDOK);
+}
+
+TEST(Process, StopsAScriptAtAFatalFailureInAStep) {
+    const Child child = runCase(L"FailsFatallyInAStep");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "the reason"));
+    EXPECT_EQ(child.output.find("a later step"), std::string::npos) << child.output;
+}
+
+TEST(Process, DISABLED_FailsFatallyInAStep) {
+    const RawDialog dialog = RawDialog(L"Fatal").button(IDCANCEL, L"Cancel");
+    Script script;
+    script.onDialog([](Dialog&) { FAIL() << "the reason"; });
+    script.onDialog([](Dialog&) { ADD_FAILURE() << "a later step"; });
+    script.run([&] { return dialog.open(); });
+}
+
+TEST(Process, NamesTheSuitesThatAreMissingOrUnknown) {
+    const Child child(L"--kit-suites=Process,Unknown");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "The suite Script is never run"));
+    EXPECT_TRUE(contains(child.output, "the suite Unknown, which does not exist"));
+}
+
+TEST(Process, HasADesktopOfItsOwn) {
+    std::array<wchar_t, 64> name = {};
+    GetUserObjectInformationW(GetThreadDesktop(GetCurrentThreadId()), UOI_NAME, name.data(),
+                              sizeof name, nullptr);
+    EXPECT_EQ(name.data(), L"kit" + std::to_wstring(GetCurrentProcessId()));
+}

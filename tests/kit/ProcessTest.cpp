@@ -20,30 +20,33 @@ public:
         GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
         std::wstring line = L"\"" + std::wstring(program.data()) + L"\" " + arguments;
 
+        // A file, no pipe: processes of the system inherit it and outlive the child.
+        const std::wstring path = kit::environment(L"TEMP") + L"\\kit-child" +
+                                  std::to_wstring(GetCurrentProcessId()) + L".txt";
         SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-        HANDLE reading = nullptr;
-        HANDLE writing = nullptr;
-        CreatePipe(&reading, &writing, &inherited, 0);
+        const HANDLE file =
+            CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE,
+                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inherited,
+                        CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         STARTUPINFOW startup = {};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;
-        startup.hStdOutput = writing;
-        startup.hStdError = writing;
+        startup.hStdOutput = file;
+        startup.hStdError = file;
         PROCESS_INFORMATION process = {};
         if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                            &startup, &process)) {
-            CloseHandle(writing);
-            std::array<char, 4096> buffer = {};
-            for (DWORD read = 0; ReadFile(reading, buffer.data(), static_cast<DWORD>(buffer.size()),
-                                          &read, nullptr) &&
-                                 read > 0;)
-                output.append(buffer.data(), read);
             WaitForSingleObject(process.hProcess, INFINITE);
             GetExitCodeProcess(process.hProcess, &exitCode);
             CloseHandle(process.hThread);
             CloseHandle(process.hProcess);
         }
-        CloseHandle(reading);
+        output.resize(GetFileSize(file, nullptr));
+        SetFilePointer(file, 0, nullptr, FILE_BEGIN);
+        DWORD read = 0;
+        ReadFile(file, output.data(), static_cast<DWORD>(output.size()), &read, nullptr);
+        output.resize(read);
+        CloseHandle(file);
         std::erase(output, '\r');
     }
 

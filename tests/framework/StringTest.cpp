@@ -7,6 +7,7 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
+#include <malloc.h>
 #include <map>
 #include <random>
 #include <string>
@@ -30,6 +31,16 @@ bool throws(Function function) {
 template <typename Function>
 bool refuses(Function function) {
     return throws<CInvalidArgException>(function);
+}
+
+/// The number of blocks in use on the heap where strings have their buffers.
+int usedHeapBlocks() {
+    const HANDLE heap = reinterpret_cast<HANDLE>(_get_heap_handle());
+    int count = 0;
+    for (PROCESS_HEAP_ENTRY entry{}; HeapWalk(heap, &entry);)
+        if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+            ++count;
+    return count;
 }
 
 /// Whether two strings share one buffer.
@@ -326,6 +337,37 @@ TEST(CStringBuffer, LockedIsHeldByOneStringAlone) {
     locked.UnlockBuffer();
     const CString sharing(locked);
     EXPECT_TRUE(shareBuffer(locked, sharing));
+}
+
+TEST(CStringBuffer, IsFreedWithItsLastString) {
+    const CString longText(L'x', 1000);
+    const auto useStrings = [&longText] {
+        CString text(L"abc");
+        const CString copy(text);
+        text += copy;
+        text = text.Left(2);
+        text = longText;
+        text.Replace(L"x", L"yy");
+        CString moved(std::move(text));
+        text = std::move(moved);
+        CString locked(text);
+        locked.LockBuffer();
+        locked += L"more than it holds";
+        CString stillLocked(L"abc");
+        stillLocked.LockBuffer();
+        stillLocked = text.Left(1);
+        text.Format(L"%s", longText.GetString());
+        text.FormatMessage(L"%1", L"x");
+        const CStringA narrow(longText);
+    };
+    // Many rounds first: the heap keeps blocks of the sizes that are asked for often.
+    for (int i = 0; i < 100; ++i)
+        useStrings();
+    const int before = usedHeapBlocks();
+    for (int i = 0; i < 100; ++i)
+        useStrings();
+    EXPECT_GT(before, 0);
+    EXPECT_EQ(usedHeapBlocks(), before);
 }
 
 TEST(CStringBuffer, SingleCharactersAreReadAndWritten) {

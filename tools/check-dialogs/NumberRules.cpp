@@ -112,11 +112,11 @@ void checkInitialItems(const Dialog& dialog, HMODULE language, Report& report) {
             break;
         const Control* control = dialog.find(id);
         const bool combo = message == 0x403;
-        if (control == nullptr || !control->is(combo ? WC_COMBOBOXW : WC_LISTBOXW))
-            wrong(L"there is no " + std::wstring(combo ? L"combo " : L"list box ") +
-                  std::to_wstring(id));
         if (!combo && message != 0x401)
             wrong(L"message " + std::to_wstring(message) + L" adds no item");
+        else if (control == nullptr || !control->is(combo ? WC_COMBOBOXW : WC_LISTBOXW))
+            wrong(L"there is no " + std::wstring(combo ? L"combo " : L"list box ") +
+                  std::to_wstring(id));
         const auto* text = reinterpret_cast<const char*>(bytes.first + at);
         if (length < 2 || std::memchr(text, 0, length) != text + length - 1)
             wrong(L"an item of " + std::to_wstring(id) + L" does not end where its length says");

@@ -8,6 +8,7 @@
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
+#include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
 #include <functional>
@@ -48,10 +49,6 @@ CString Texto(UINT numero) {
     return texto;
 }
 
-CString TextoDeNumeroMalo() {
-    return Texto(AFX_IDP_PARSE_REAL);
-}
-
 class TriangulacionDlg : public testing::Test {
 protected:
     TriangulacionDlg() {
@@ -69,29 +66,31 @@ protected:
         data.m_CodigosExtra2 = Tabla({{L"X2", L"Second extra"}});
     }
 
-    /// Opens the dialog, does `paso` in it, and returns what `DoModal` returned. A step that
-    /// presses neither button is followed by Cancel.
-    INT_PTR Abre(const std::function<void(kit::Dialog&)>& paso) {
-        script.onDialog(paso);
-        return Abre();
-    }
-    INT_PTR Abre() {
-        return script.run([this] { return CTriangulacionDlg(data).DoModal(); });
-    }
+    using Paso = std::function<void(kit::Dialog&)>;
 
-    void EsperaRechazo(UINT mensaje, kit::Where donde = kit::Where::current()) {
-        script.expectMessage(Texto(IDS_TITULO_MENSAJES), Texto(mensaje), MB_ICONERROR, donde)
-            .buttons(MB_OK)
-            .ownedByDialog();
+    /// Opens the dialog, does `paso` in it, and returns what `DoModal` returned.
+    ///
+    /// @param mensajes the refusals that come meanwhile, in this order: numbers of the dialog's
+    ///                 messages, or of the framework's own prompt.
+    INT_PTR Abre(std::initializer_list<UINT> mensajes, const Paso& paso,
+                 kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        for (const UINT mensaje : mensajes) {
+            if (mensaje == AFX_IDP_PARSE_REAL)
+                guion.expectMessage(AfxGetAppName(), Texto(mensaje), MB_ICONEXCLAMATION, donde);
+            else
+                guion.expectMessage(Texto(IDS_TITULO_MENSAJES), Texto(mensaje), MB_ICONERROR, donde)
+                    .buttons(MB_OK)
+                    .ownedByDialog();
+        }
+        return guion.run([this] { return CTriangulacionDlg(data).DoModal(); }, donde);
     }
-
-    /// The framework's own refusal of a text that is no number.
-    void EsperaNumeroMalo(kit::Where donde = kit::Where::current()) {
-        script.expectMessage(AfxGetAppName(), TextoDeNumeroMalo(), MB_ICONEXCLAMATION, donde);
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Abre({}, paso, donde);
     }
 
     CDataTriangulacion data;
-    kit::Script script;
 };
 
 const Textos CuatroCodigos = {L"RD", L"WL", L"TR", L"CT"};
@@ -191,8 +190,7 @@ TEST_F(TriangulacionDlg, BreaklinesOfTheHostAreDiscardedAtOpening) {
 
 TEST_F(TriangulacionDlg, EmptyTablesDisableOk) {
     data.m_Codigos.clear();
-    EsperaRechazo(IDS_SIN_CODIGOS);
-    Abre([](kit::Dialog& dialogo) {
+    Abre({IDS_SIN_CODIGOS}, [](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.list(Codigos).rows(), 0);
         EXPECT_EQ(dialogo.list(Rupturas).rows(), 0);
         EXPECT_FALSE(dialogo.enabled(IDOK));
@@ -209,8 +207,7 @@ TEST_F(TriangulacionDlg, EmptyTablesDisableOk) {
 TEST_F(TriangulacionDlg, WithoutCodesTheBreaklinesOfTheHostStayUnseen) {
     data.m_Codigos.clear();
     data.m_CodigosRuptura = Tabla({{L"WL", L"Wall"}});
-    EsperaRechazo(IDS_SIN_CODIGOS);
-    Abre([](kit::Dialog& dialogo) {
+    Abre({IDS_SIN_CODIGOS}, [](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.list(Rupturas).rows(), 0);
         EXPECT_TRUE(dialogo.enabled(IDOK));
         dialogo.press(IDOK);
@@ -399,12 +396,11 @@ TEST_F(TriangulacionDlg, JoinedLinesStartWithTheirDistanceDisabled) {
 
 TEST_F(TriangulacionDlg, TreatmentIsTheIndexOfItsButton) {
     for (int i = 0; i < 4; ++i) {
-        kit::Script guion;
-        guion.onDialog([i](kit::Dialog& dialogo) {
+        const auto resultado = Abre([i](kit::Dialog& dialogo) {
             dialogo.click(IDC_TRIANGULACION_TIPO_RUPTURA_1 + i);
             dialogo.press(IDOK);
         });
-        EXPECT_EQ(guion.run([this] { return CTriangulacionDlg(data).DoModal(); }), IDOK);
+        EXPECT_EQ(resultado, IDOK);
         EXPECT_EQ(data.m_TipoRuptura, i);
     }
 }
@@ -450,31 +446,28 @@ TEST_F(TriangulacionDlg, OkLeavesEverythingInTheRecord) {
 }
 
 TEST_F(TriangulacionDlg, ChecksComeInTheirOrder) {
-    EsperaRechazo(IDS_SIN_CODIGOS);
-    EsperaRechazo(IDS_LIMITES_NO_CRECIENTES);
-    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
-    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
-        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
-        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"300");
-        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"-1");
-        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
-        dialogo.command(IDOK);
-        dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
-        dialogo.press(IDOK);
-        dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"10");
-        dialogo.press(IDOK);
-        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"1");
-        dialogo.press(IDOK);
-        dialogo.type(IDC_TRIANGULACION_NOMBRE, L"n");
-        dialogo.press(IDOK);
-    });
+    const auto resultado = Abre(
+        {IDS_SIN_CODIGOS, IDS_LIMITES_NO_CRECIENTES, IDS_VALOR_NO_POSITIVO, IDS_TEXTO_OBLIGATORIO},
+        [](kit::Dialog& dialogo) {
+            dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"300");
+            dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"-1");
+            dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
+            dialogo.command(IDOK);
+            dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
+            dialogo.press(IDOK);
+            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"10");
+            dialogo.press(IDOK);
+            dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"1");
+            dialogo.press(IDOK);
+            dialogo.type(IDC_TRIANGULACION_NOMBRE, L"n");
+            dialogo.press(IDOK);
+        });
     EXPECT_EQ(resultado, IDOK);
 }
 
 TEST_F(TriangulacionDlg, RefusalMovesNoFocus) {
-    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
-    Abre([](kit::Dialog& dialogo) {
+    Abre({IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
         dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
         dialogo.focusOn(IDC_TRIANGULACION_PARAMETRO_EXTRA);
         dialogo.command(IDOK);
@@ -485,8 +478,7 @@ TEST_F(TriangulacionDlg, RefusalMovesNoFocus) {
 }
 
 TEST_F(TriangulacionDlg, EqualLimitsAreRefused) {
-    EsperaRechazo(IDS_LIMITES_NO_CRECIENTES);
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
+    const auto resultado = Abre({IDS_LIMITES_NO_CRECIENTES}, [](kit::Dialog& dialogo) {
         dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"250.5");
         dialogo.press(IDOK);
         dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"250.499");
@@ -498,8 +490,7 @@ TEST_F(TriangulacionDlg, EqualLimitsAreRefused) {
 TEST_F(TriangulacionDlg, DistanceMustBePositiveAlsoWhenItIsDisabled) {
     data.m_NoUnirCurvas = FALSE;
     data.m_DistanciaNoUnir = 1e-7;
-    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
+    const auto resultado = Abre({IDS_VALOR_NO_POSITIVO}, [](kit::Dialog& dialogo) {
         EXPECT_FALSE(dialogo.enabled(IDC_TRIANGULACION_DISTANCIA_NO_UNIR));
         dialogo.press(IDOK);
         dialogo.press(IDCANCEL);
@@ -517,8 +508,7 @@ TEST_F(TriangulacionDlg, DistanceJustAboveTheToleranceIsTaken) {
 }
 
 TEST_F(TriangulacionDlg, RefusedOkKeepsTheCodeTableAndWhatWasTyped) {
-    EsperaRechazo(IDS_TEXTO_OBLIGATORIO);
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
+    const auto resultado = Abre({IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
         dialogo.list(Codigos).choose({0, 2});
         dialogo.type(IDC_TRIANGULACION_NOMBRE, L"");
         dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"7");
@@ -572,9 +562,7 @@ TEST_F(TriangulacionDlg, CancelKeepsTheBreaklinesOfTheLastSelection) {
 // Texts that are no numbers.
 
 TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
-    EsperaNumeroMalo();
-    EsperaNumeroMalo();
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.list(Codigos).choose({0, 2});
         dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"low");
         dialogo.type(IDC_TRIANGULACION_NOMBRE, L"Typed");
@@ -596,13 +584,12 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
 
 TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
     data.m_DistanciaNoUnir = 0;
-    EsperaNumeroMalo();
-    EsperaRechazo(IDS_VALOR_NO_POSITIVO);
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
-        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"5 m");
-        dialogo.press(IDOK);
-        dialogo.press(IDCANCEL);
-    });
+    const auto resultado =
+        Abre({AFX_IDP_PARSE_REAL, IDS_VALOR_NO_POSITIVO}, [](kit::Dialog& dialogo) {
+            dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"5 m");
+            dialogo.press(IDOK);
+            dialogo.press(IDCANCEL);
+        });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(data.m_DistanciaNoUnir, 0);
 }
@@ -610,13 +597,35 @@ TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
 TEST_F(TriangulacionDlg, BadNumberIsRefusedAtAChangeOfTheCodesAndThenReplaced) {
     // Once by the change itself, once by the rebuild of the breaklines, which then shows the
     // record.
-    EsperaNumeroMalo();
-    EsperaNumeroMalo();
-    Abre([this](kit::Dialog& dialogo) {
+    Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.type(IDC_TRIANGULACION_LIMITE_SUPERIOR, L"high");
         dialogo.list(Codigos).select(1, false);
         EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
         EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// Help.
+
+TEST_F(TriangulacionDlg, F1OpensItsPageOfTheHostsHelpFile) {
+    Abre([](kit::Dialog& dialogo) {
+        const std::vector<kit::HelpRequest> suPagina = {{150083, 15}};
+        dialogo.focusOn(IDC_TRIANGULACION_NOMBRE);
+        dialogo.help();
+        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
+        dialogo.focusOn(Codigos);
+        dialogo.help();
+        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, HelpCommandOfAButtonIsNotItsOwn) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.exists(ID_HELP));
+        dialogo.command(ID_HELP);
+        EXPECT_EQ(kit::app.takeHelpRequests(), std::vector<kit::HelpRequest>{});
         dialogo.press(IDCANCEL);
     });
 }
@@ -637,6 +646,7 @@ public:
 
 TEST_F(TriangulacionDlg, HostDerivesFromItAndRunsUnderItsOwnState) {
     CDerivado derivado(data);
+    kit::Script script;
     script.onDialog([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
     EXPECT_EQ(script.run([&] { return derivado.DoModal(); }), IDOK);
     EXPECT_EQ(derivado.aplicacion, AfxGetApp());
@@ -649,12 +659,10 @@ TEST_F(TriangulacionDlg, HasNoClassInformationOfItsOwn) {
 
 TEST_F(TriangulacionDlg, LeavesNothingBehind) {
     const auto unaVez = [this] {
-        kit::Script guion;
-        guion.onDialog([](kit::Dialog& dialogo) {
+        Abre([](kit::Dialog& dialogo) {
             dialogo.list(Codigos).select(1, false);
             dialogo.press(IDCANCEL);
         });
-        guion.run([this] { return CTriangulacionDlg(data).DoModal(); });
     };
     unaVez();
     const auto antes = kit::Handles::now();

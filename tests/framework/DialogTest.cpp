@@ -1,0 +1,482 @@
+#include "FieldsDialog.h"
+
+#include <kit/kit.h>
+
+#include <optional>
+#include <stdexcept>
+
+namespace {
+
+// A main window, for as long as it lives.
+class MainWindow : public CWnd {
+public:
+    MainWindow() {
+        EXPECT_TRUE(CreateEx(0, nullptr, L"Main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 600,
+                             400, nullptr, nullptr));
+        theApp.m_pMainWnd = this;
+    }
+    ~MainWindow() override {
+        theApp.m_pMainWnd = nullptr;
+        DestroyWindow();
+    }
+};
+
+// ---- The run and its result
+
+TEST(Dialog, OkAndCancelEndItWithTheirNumbers) {
+    for (const int button : {IDOK, IDCANCEL}) {
+        FieldsDialog dialog;
+        kit::Script script;
+        script.onDialog([=](kit::Dialog& d) {
+            EXPECT_EQ(d.caption(), L"Fields");
+            d.press(button);
+        });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), button);
+        EXPECT_EQ(dialog.m_hWnd, nullptr);
+    }
+}
+
+TEST(Dialog, EnterAndEscapeAreOkAndCancel) {
+    for (const auto& [key, result] :
+         {std::pair<WORD, int>{VK_RETURN, IDOK}, {VK_ESCAPE, IDCANCEL}}) {
+        FieldsDialog dialog;
+        kit::Script script;
+        script.onDialog([key = key](kit::Dialog&) { kit::keyboard::press(key); });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), result);
+    }
+}
+
+TEST(Dialog, TheCloseBoxCancels) {
+    FieldsDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.close(); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+}
+
+TEST(Dialog, CanBeRunAgain) {
+    FieldsDialog dialog;
+    int inits = 0;
+    dialog.onInit = [&](FieldsDialog&) { ++inits; };
+    for (const int button : {IDCANCEL, IDOK}) {
+        kit::Script script;
+        script.onDialog([=](kit::Dialog& d) { d.press(button); });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), button);
+    }
+    EXPECT_EQ(inits, 2);
+}
+
+TEST(Dialog, AMissingTemplateIsMinusOne) {
+    FieldsDialog dialog(nullptr, 31999);
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(Dialog, EndedInItsInitialisationIsNeverShown) {
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog& d) { d.EndDialog(123); };
+    EXPECT_EQ(dialog.DoModal(), 123);
+}
+
+TEST(Dialog, AnExceptionInTheInitialisationIsMinusOneAndTheHostGoesOn) {
+    MainWindow main;
+    for (const bool foreign : {false, true}) {
+        FieldsDialog dialog;
+        dialog.onInit = [=](FieldsDialog&) {
+            if (foreign)
+                throw std::runtime_error("from an initialisation");
+            AfxThrowResourceException();
+        };
+        EXPECT_EQ(dialog.DoModal(), -1);
+        EXPECT_TRUE(main.IsWindowEnabled());
+    }
+    FieldsDialog next;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return next.DoModal(); }), IDOK);
+}
+
+TEST(Dialog, AForeignExceptionInAHandlerEndsItWithMinusOne) {
+    MainWindow main;
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog&) { throw std::runtime_error("from a handler"); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDC_INNER); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), -1);
+    EXPECT_TRUE(main.IsWindowEnabled());
+}
+
+TEST(Dialog, AnExceptionOfTheFrameworkInAHandlerIsReportedAndItStaysOpen) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog&) { AfxThrowMemoryException(); };
+    CString text;
+    ASSERT_TRUE(text.LoadString(AFX_IDS_MEMORY_EXCEPTION));
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    script.expectMessage(L"Framework tests", text.GetString(), MB_ICONERROR);
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+TEST(Dialog, AUserExceptionInAHandlerIsSilent) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog&) { AfxThrowUserException(); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// A dialog that counts what happens to it as a window.
+class CountingDialog : public FieldsDialog {
+public:
+    using FieldsDialog::FieldsDialog;
+    int destroyed = 0;
+    int ncDestroyed = 0;
+    BOOL DestroyWindow() override {
+        ++destroyed;
+        return FieldsDialog::DestroyWindow();
+    }
+    void PostNcDestroy() override { ++ncDestroyed; }
+};
+
+TEST(Dialog, ItsWindowIsDestroyedThroughTheVirtualFunction) {
+    CountingDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDCANCEL); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dialog.destroyed, 1);
+    EXPECT_EQ(dialog.ncDestroyed, 1);
+}
+
+// ---- Notifications at the end
+
+TEST(Dialog, ItsClosingNotifiesNobody) {
+    for (const int button : {IDOK, IDCANCEL}) {
+        FieldsDialog dialog;
+        kit::Script script;
+        script.onDialog([&](kit::Dialog& d) {
+            d.focusOn(IDC_NAME);
+            d.focusOn(IDC_DOUBLE);
+            EXPECT_EQ(dialog.log, (std::vector<std::string>{"killfocus"}));
+            d.focusOn(IDC_NAME);
+            dialog.log.clear();
+            d.command(button); // without taking the focus to the button
+        });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), button);
+        EXPECT_TRUE(dialog.log.empty()) << "a focus lost by closing is not the user's doing";
+    }
+}
+
+// ---- Owners
+
+TEST(DialogOwner, IsTheMainWindowWhichIsDisabledMeanwhile) {
+    MainWindow main;
+    FieldsDialog dialog;
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        EXPECT_EQ(d.owner(), main.m_hWnd);
+        EXPECT_FALSE(main.IsWindowEnabled());
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_TRUE(main.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), main.m_hWnd);
+}
+
+TEST(DialogOwner, AMainWindowThatWasDisabledStaysSo) {
+    MainWindow main;
+    main.EnableWindow(FALSE);
+    FieldsDialog dialog(&main);
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_FALSE(main.IsWindowEnabled());
+}
+
+// With a main window and without one.
+class InnerDialog : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(Main, InnerDialog, testing::Bool());
+
+TEST_P(InnerDialog, WithoutParentBelongsToTheActiveDialog) {
+    std::optional<MainWindow> main;
+    if (GetParam())
+        main.emplace();
+    FieldsDialog outer;
+    INT_PTR innerResult = 0;
+    outer.onInner = [&](FieldsDialog&) {
+        FieldsDialog inner(nullptr, IDD_INNER);
+        innerResult = inner.DoModal();
+    };
+    kit::Script script;
+    script.onDialog(kit::titled(L"Fields"), [&](kit::Dialog& d) {
+        d.focusOn(IDC_DOUBLE);
+        d.command(IDC_INNER); // the focus stays where the user was
+        EXPECT_EQ(innerResult, IDOK);
+        EXPECT_TRUE(::IsWindowEnabled(outer.m_hWnd));
+        EXPECT_EQ(::GetActiveWindow(), outer.m_hWnd);
+        EXPECT_EQ(d.focus(), IDC_DOUBLE);
+        d.press(IDCANCEL);
+    });
+    script.onDialog(kit::titled(L"Inner"), [&](kit::Dialog& d) {
+        EXPECT_EQ(d.owner(), outer.m_hWnd);
+        EXPECT_FALSE(::IsWindowEnabled(outer.m_hWnd));
+        EXPECT_FALSE(main && main->IsWindowEnabled());
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return outer.DoModal(); }), IDCANCEL);
+    EXPECT_TRUE(!main || main->IsWindowEnabled());
+}
+
+TEST(DialogOwner, AChildNamedAsParentStandsForItsTopLevelWindow) {
+    MainWindow main;
+    CWnd child;
+    ASSERT_TRUE(child.Create(L"Static", L"child", WS_VISIBLE, CRect(0, 0, 50, 20), &main, 7));
+    FieldsDialog dialog(&child);
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        EXPECT_EQ(d.owner(), main.m_hWnd);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+TEST(DialogOwner, MessageBoxesBelongToTheDialog) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) { d.MessageBox(L"text", L"caption", MB_ICONERROR); };
+    dialog.onCheck = [](FieldsDialog&) { AfxMessageBox(L"from the framework"); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.click(IDC_CHECK);
+        d.press(IDOK);
+    });
+    script.expectMessage(L"caption", L"text", MB_ICONERROR).ownedByDialog();
+    script.expectMessage(L"Framework tests", L"from the framework", MB_ICONEXCLAMATION)
+        .ownedByDialog();
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+TEST(DialogOwner, AMessageBoxWithoutCaptionSaysError) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) {
+        EXPECT_EQ(d.MessageBox(L"Really?", nullptr, MB_YESNO | MB_ICONQUESTION), IDNO);
+    };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    script.expectMessage(L"Error", L"Really?", MB_ICONQUESTION).buttons(MB_YESNO).answer(IDNO);
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// ---- Place
+
+TEST(DialogPlace, CentresOverItsOwner) {
+    MainWindow main;
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog& d) { d.CenterWindow(); };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        CRect owner;
+        main.GetWindowRect(&owner);
+        const CRect own = d.rect();
+        EXPECT_NEAR(own.CenterPoint().x, owner.CenterPoint().x, 1);
+        EXPECT_NEAR(own.CenterPoint().y, owner.CenterPoint().y, 1);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+TEST(DialogPlace, CentresOnTheScreenWithoutAnOwner) {
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog& d) { d.CenterWindow(); };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        CRect area;
+        ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+        const CRect own = d.rect();
+        EXPECT_NEAR(own.CenterPoint().x, area.CenterPoint().x, 1);
+        EXPECT_NEAR(own.CenterPoint().y, area.CenterPoint().y, 1);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+TEST(DialogPlace, StaysOnTheScreen) {
+    MainWindow main;
+    main.MoveWindow(-500, -300, 600, 400);
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog& d) { d.CenterWindow(); };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        EXPECT_GE(d.rect().left, 0);
+        EXPECT_GE(d.rect().top, 0);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// ---- The template's init block
+
+TEST(DialogInitBlock, FillsCombosAndLists) {
+    FieldsDialog dialog(nullptr, IDD_COMBOS);
+    int countAtInit = 0;
+    dialog.onInit = [&](FieldsDialog& d) {
+        countAtInit = static_cast<int>(d.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT));
+    };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.choose(IDC_COMBO, 0);
+        EXPECT_EQ(d.text(IDC_COMBO), L"First");
+        d.choose(IDC_COMBO, 2);
+        EXPECT_EQ(d.text(IDC_COMBO), L"Third");
+        EXPECT_EQ(::SendMessage(d.control(IDC_LISTBOX), LB_GETCOUNT, 0, 0), 2);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(countAtInit, 3);
+}
+
+// ---- Help
+
+TEST(DialogHelp, TheDefaultNamesTheTemplate) {
+    theApp.helps.clear();
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) { d.OnHelp(); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(theApp.helps, (std::vector<TestApp::Help>{{131072 + IDD_FIELDS, 15}}));
+}
+
+// Maps F1 and the Help button as a dialog with help of its own does.
+class HelpfulDialog : public FieldsDialog {
+public:
+    using FieldsDialog::FieldsDialog;
+    std::vector<int> controls;
+    BOOL OnHelpInfo(HELPINFO* info) {
+        controls.push_back(info->iCtrlId);
+        return TRUE;
+    }
+    void OnHelp() { controls.push_back(-1); }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(HelpfulDialog, FieldsDialog)
+    ON_WM_HELPINFO()
+    ON_COMMAND(ID_HELP, &HelpfulDialog::OnHelp)
+END_MESSAGE_MAP()
+
+TEST(DialogHelp, F1ClimbsFromTheControlToTheDialog) {
+    HelpfulDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.focusOn(IDC_INT);
+        kit::keyboard::press(VK_F1);
+        d.press(ID_HELP);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(dialog.controls, (std::vector<int>{IDC_INT, -1}));
+}
+
+TEST(DialogHelp, F1InADialogWithoutHelpEndsThere) {
+    theApp.helps.clear();
+    HelpfulDialog outer;
+    outer.onInner = [](FieldsDialog&) {
+        FieldsDialog inner(nullptr, IDD_INNER);
+        EXPECT_EQ(inner.DoModal(), IDOK);
+    };
+    kit::Script script;
+    script.onDialog(kit::titled(L"Fields"), [](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    script.onDialog(kit::titled(L"Inner"), [](kit::Dialog& d) {
+        d.focusOn(IDC_NAME);
+        kit::keyboard::press(VK_F1);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return outer.DoModal(); }), IDOK);
+    EXPECT_TRUE(outer.controls.empty()) << "the owner's help is about something else";
+    EXPECT_TRUE(theApp.helps.empty());
+}
+
+// ---- Commands
+
+TEST(DialogCommands, FromTheApplicationsRangeOnReachTheApplication) {
+    const int before = theApp.commandsSeen;
+    FieldsDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_APP_COMMAND);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(theApp.commandsSeen, before + 1);
+}
+
+TEST(DialogCommands, OkCountsAlsoWhenItsButtonIsDisabled) {
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog& d) { d.GetDlgItem(IDOK)->EnableWindow(FALSE); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        EXPECT_FALSE(d.enabled(IDOK));
+        d.command(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// ---- Keyboard
+
+TEST(DialogKeyboard, TabAndMnemonicsMoveTheFocus) {
+    FieldsDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        EXPECT_EQ(d.focus(), IDC_NAME) << "the first control that takes the focus";
+        kit::keyboard::press(VK_TAB);
+        EXPECT_EQ(d.focus(), IDC_DOUBLE);
+        kit::keyboard::press(VK_TAB, kit::Held::Shift);
+        EXPECT_EQ(d.focus(), IDC_NAME);
+        kit::keyboard::mnemonic(L'U');
+        EXPECT_EQ(d.focus(), IDC_UINT);
+        kit::keyboard::mnemonic(L'C');
+        EXPECT_TRUE(d.checked(IDC_CHECK));
+        kit::keyboard::press(VK_SPACE);
+        EXPECT_FALSE(d.checked(IDC_CHECK));
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(dialog.log, (std::vector<std::string>{"killfocus", "killfocus", "check", "check"}));
+}
+
+// ---- Resources in use
+
+TEST(DialogResources, NothingIsLeftAfterManyRuns) {
+    const auto cycle = [] {
+        FieldsDialog dialog;
+        CString name = L"x";
+        dialog.exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_NAME, name); };
+        dialog.onInit = [](FieldsDialog& d) {
+            d.CenterWindow();
+            d.GetDlgItem(IDC_INT)->EnableWindow(FALSE);
+        };
+        kit::Script script;
+        script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    };
+    cycle();
+    const kit::Handles before = kit::Handles::now();
+    for (int i = 0; i < 20; ++i)
+        cycle();
+    EXPECT_EQ(kit::Handles::now(), before);
+}
+
+} // namespace

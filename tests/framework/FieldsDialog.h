@@ -1,0 +1,49 @@
+// A dialog of the test resources with one control of each kind of exchange. What it exchanges
+// can be chosen by a test, so that one class serves them all.
+#pragma once
+
+#include "TestApp.h"
+#include "TestResource.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class FieldsDialog : public CDialog {
+public:
+    explicit FieldsDialog(CWnd* parent = nullptr, UINT dialogTemplate = IDD_FIELDS)
+        : CDialog(dialogTemplate, parent) {}
+
+    std::function<void(CDataExchange*)> exchange = [](CDataExchange*) {};
+    std::function<void(FieldsDialog&)> onInit = [](FieldsDialog&) {};
+    std::function<void(FieldsDialog&)> onNameChange = [](FieldsDialog&) {};
+    std::function<void(FieldsDialog&)> onInner = [](FieldsDialog&) {};
+    std::function<void(FieldsDialog&)> onCheck = [](FieldsDialog&) {};
+    std::vector<std::string> log; // notifications, in the order in which they came
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        onInit(*this);
+        return TRUE;
+    }
+    void DoDataExchange(CDataExchange* pDX) override {
+        CDialog::DoDataExchange(pDX);
+        exchange(pDX);
+    }
+    void OnNameChange() {
+        log.push_back("change");
+        onNameChange(*this);
+    }
+    void OnNameKillFocus() { log.push_back("killfocus"); }
+    void OnInner() {
+        log.push_back("inner");
+        onInner(*this);
+    }
+    void OnCheck() {
+        log.push_back("check");
+        onCheck(*this);
+    }
+    using CDialog::EndDialog;
+
+    DECLARE_MESSAGE_MAP()
+};

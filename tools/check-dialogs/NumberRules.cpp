@@ -1,3 +1,4 @@
+#include "Resources.h"
 #include "Rules.h"
 
 #include <commctrl.h>
@@ -9,34 +10,6 @@
 namespace {
 
 constexpr int helpButton = 57670;
-constexpr int dialogInitType = 240;
-
-std::set<int> resourcesOf(HMODULE module, LPCWSTR type) {
-    std::set<int> numbers;
-    EnumResourceNamesW(
-        module, type,
-        [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR set) -> BOOL {
-            if (IS_INTRESOURCE(name))
-                reinterpret_cast<std::set<int>*>(set)->insert(
-                    static_cast<int>(reinterpret_cast<ULONG_PTR>(name)));
-            return TRUE;
-        },
-        reinterpret_cast<LONG_PTR>(&numbers));
-    return numbers;
-}
-
-struct Bytes {
-    const BYTE* first = nullptr;
-    DWORD count = 0;
-};
-
-Bytes bytesOf(HMODULE module, int number, LPCWSTR type) {
-    const HRSRC resource = FindResourceW(module, MAKEINTRESOURCEW(number), type);
-    if (resource == nullptr)
-        return {};
-    return {static_cast<const BYTE*>(LockResource(LoadResource(module, resource))),
-            SizeofResource(module, resource)};
-}
 
 /// The texts of a module that are not empty, by number.
 std::map<int, std::wstring> stringsOf(HMODULE module) {
@@ -67,9 +40,6 @@ std::set<int> sizesOf(HMODULE module, int number) {
     return sizes;
 }
 
-const std::wstring languagePlace = L"language file";
-const std::wstring libraryPlace = L"library";
-
 } // namespace
 
 void checkControlIds(const Dialog& dialog, const DialogIds& ids, Report& report) {
@@ -90,7 +60,7 @@ void checkControlIds(const Dialog& dialog, const DialogIds& ids, Report& report)
 }
 
 void checkInitialItems(const Dialog& dialog, HMODULE language, Report& report) {
-    const Bytes bytes = bytesOf(language, dialog.number(), MAKEINTRESOURCEW(dialogInitType));
+    const Bytes bytes = bytesOf(language, dialog.number(), initialItemsType);
     const auto wrong = [&](const std::wstring& text) {
         report.add(dialog.place(), L"items", L"its initial items: " + text);
     };
@@ -133,7 +103,7 @@ void checkTemplates(HMODULE language, const Ids& ids, Report& report) {
             report.add(dialog.name + L" (" + std::to_wstring(number) + L")", L"template",
                        L"has no template");
     }
-    for (const int number : resourcesOf(language, MAKEINTRESOURCEW(dialogInitType))) {
+    for (const int number : resourcesOf(language, initialItemsType)) {
         if (templates.count(number) == 0)
             report.add(languagePlace, L"items",
                        L"initial items for dialog " + std::to_wstring(number) +

@@ -30,5 +30,9 @@ void checkTemplates(HMODULE language, const Ids& ids, Report& report);
 void checkStrings(HMODULE language, const Ids& ids, Report& report);
 void checkIcons(HMODULE language, HMODULE library, const Ids& ids, Report& report);
 
+// Modules: each says its version; the language file has one language.
+void checkVersions(HMODULE language, HMODULE library, Report& report);
+void checkLanguage(HMODULE language, Report& report);
+
 // Sources: faults that the resource compiler passes over in silence.
 void checkFragments(const std::wstring& folder, Report& report);

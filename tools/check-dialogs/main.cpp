@@ -88,6 +88,8 @@ int wmain(int count, wchar_t** values) {
     checkTemplates(language, ids, report);
     checkStrings(language, ids, report);
     checkIcons(language, library, ids, report);
+    checkVersions(language, library, report);
+    checkLanguage(language, report);
 
     const int findings = report.print();
     std::printf("check-dialogs: %zu dialogs, %zu texts, %zu icons, %d findings\n",

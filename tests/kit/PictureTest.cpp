@@ -174,5 +174,5 @@ TEST(Text, GoesToUtf8AndBack) {
     const std::wstring text = L"Cañón 1:500 \x20AC \xD83D\xDE00";
     EXPECT_EQ(kit::utf16(kit::utf8(text)), text);
     EXPECT_EQ(kit::utf8(L"ñ"), "\xC3\xB1");
-    EXPECT_EQ(kit::quoted(L"a\r\n"), "\"a\\r\\n\"");
+    EXPECT_EQ(kit::inQuotes(L"a\r\n"), "\"a\\r\\n\"");
 }

@@ -53,7 +53,7 @@ void ComboBox::choose(const Text& entry, Where where) {
     for (int index = 0; index < count(); ++index)
         if (text(index) == entry)
             return choose(index, where);
-    abandon("The combo box has no entry " + quoted(entry), where);
+    abandon("The combo box has no entry " + inQuotes(entry), where);
 }
 
 void ComboBox::walk(int steps) {

@@ -29,7 +29,7 @@ HWND find(HWND dialog, int id) {
 }
 
 std::string named(HWND dialog, int id) {
-    return "control " + std::to_string(id) + " of the dialog " + quoted(textOf(dialog));
+    return "control " + std::to_string(id) + " of the dialog " + inQuotes(textOf(dialog));
 }
 
 LRESULT buttonType(HWND control) {
@@ -117,7 +117,7 @@ HWND Dialog::usable(int id, const Where& where) const {
     if (!IsWindowEnabled(found))
         abandon("Nobody can use the disabled " + named(window_, id), where);
     if (!IsWindowEnabled(window_))
-        abandon("Nobody can use the dialog " + quoted(caption()) +
+        abandon("Nobody can use the dialog " + inQuotes(caption()) +
                     " while another one is open before it",
                 where);
     return found;
@@ -294,14 +294,14 @@ void Dialog::dropOnto(HWND target, const std::vector<std::wstring>& files, const
     while (target != nullptr && (GetWindowLongW(target, GWL_EXSTYLE) & WS_EX_ACCEPTFILES) == 0)
         target = target == window_ ? nullptr : GetParent(target);
     if (target == nullptr)
-        abandon("The dialog " + quoted(caption()) + " takes no files there", where);
+        abandon("The dialog " + inQuotes(caption()) + " takes no files there", where);
     SendMessageW(target, WM_DROPFILES, reinterpret_cast<WPARAM>(makeDrop(files)), 0);
 }
 
 void Dialog::help(Where where) {
     const HWND focused = GetFocus();
     if (focused == nullptr || (focused != window_ && !IsChild(window_, focused)))
-        abandon("The dialog " + quoted(caption()) + " has not the focus", where);
+        abandon("The dialog " + inQuotes(caption()) + " has not the focus", where);
     // The system makes this message of the key, so that it comes from here as well.
     SendMessageW(focused, keyF1, 0, 0);
 }
@@ -355,7 +355,7 @@ void Dialog::command(int id) {
 void Dialog::picture(const Text& name, Where where) const {
     const std::wstring folder = environment(L"CUADROS_PICTURES");
     if (!folder.empty() && !savePicture(window_, folder + L"\\" + name + L".png"))
-        fail("The picture " + quoted(name) + " cannot be written to " + quoted(folder), where);
+        fail("The picture " + inQuotes(name) + " cannot be written to " + inQuotes(folder), where);
 }
 
 std::string Dialog::tree() const {

@@ -103,7 +103,7 @@ MessageExpectation& MessageExpectation::answer(int button) {
 }
 
 std::string MessageExpectation::describe() const {
-    return "the message box " + (text_ ? quoted(*text_) : "of any text");
+    return "the message box " + (text_ ? inQuotes(*text_) : "of any text");
 }
 
 void MessageExpectation::meet(HWND window, HWND latestDialog) const {
@@ -115,9 +115,9 @@ void MessageExpectation::meet(HWND window, HWND latestDialog) const {
             differences += std::string("\n  ") + what + ": " + actual + "\n  expected: " + expected;
     };
     if (caption_)
-        compare("caption", quoted(*caption_), quoted(box.caption()));
+        compare("caption", inQuotes(*caption_), inQuotes(box.caption()));
     if (text_)
-        compare("text", quoted(*text_), quoted(box.text()));
+        compare("text", inQuotes(*text_), inQuotes(box.text()));
     if (icon_)
         compare("icon", iconName(*icon_), iconName(box.icon()));
     if (buttons_) {
@@ -131,8 +131,8 @@ void MessageExpectation::meet(HWND window, HWND latestDialog) const {
         compare("default button", buttonName(*defaultButton_), buttonName(box.defaultButton()));
     if (ownedByDialog_ && box.owner() != latestDialog)
         differences +=
-            "\n  owner: " + (box.owner() == nullptr ? "none" : quoted(textOf(box.owner()))) +
-            "\n  expected: the dialog " + quoted(textOf(latestDialog));
+            "\n  owner: " + (box.owner() == nullptr ? "none" : inQuotes(textOf(box.owner()))) +
+            "\n  expected: the dialog " + inQuotes(textOf(latestDialog));
     if (!differences.empty())
         fail("The message box is another one than expected." + differences, where_);
     if (look_)

@@ -196,9 +196,9 @@ void Script::unscripted(HWND window) {
                           : known_.contains(window) ? "The script is at its end, but open is "
                                                       "still the dialog "
                                                     : "An unexpected dialog: ";
-    message += quoted(textOf(window));
+    message += inQuotes(textOf(window));
     if (MessageDialog::is(window))
-        message += " " + quoted(MessageDialog(window).text());
+        message += " " + inQuotes(MessageDialog(window).text());
     message += "; waiting for " + outlook() + "\n" + windowTree(window);
     giveUp(message, next_ < items_.size() ? items_[next_]->where : where_);
     dismiss(window);

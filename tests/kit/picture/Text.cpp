@@ -21,7 +21,7 @@ std::wstring utf16(std::string_view text) {
     return result;
 }
 
-std::string quoted(std::wstring_view text) {
+std::string inQuotes(std::wstring_view text) {
     std::wstring result = L"\"";
     for (const wchar_t c : text) {
         switch (c) {

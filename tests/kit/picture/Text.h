@@ -26,6 +26,6 @@ std::string utf8(std::wstring_view text);
 std::wstring utf16(std::string_view text);
 
 /// UTF-8 of a text in quotes, with control characters made visible.
-std::string quoted(std::wstring_view text);
+std::string inQuotes(std::wstring_view text);
 
 } // namespace kit

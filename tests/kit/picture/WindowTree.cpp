@@ -37,7 +37,7 @@ void describe(HWND window, bool answering, int depth, std::string& out) {
     out += utf8(classOf(window));
     if ((style & WS_CHILD) != 0)
         out += " " + std::to_string(GetDlgCtrlID(window));
-    out += " " + quoted(answering ? textOf(window) : keptTextOf(window));
+    out += " " + inQuotes(answering ? textOf(window) : keptTextOf(window));
     if ((style & WS_VISIBLE) == 0)
         out += " hidden";
     if ((style & WS_DISABLED) != 0)

@@ -70,9 +70,14 @@ void CEjemploApp::HtmlHelp(DWORD_PTR dwData, UINT) {
             continue;
         const CString pagina =
             BuscaHaciaArriba(L"docs\\dialogs\\" + CString(conversacion.raiz) + L".md");
-        const auto resultado = reinterpret_cast<INT_PTR>(
-            ShellExecuteW(nullptr, L"open", pagina, nullptr, nullptr, SW_SHOWNORMAL));
-        if (resultado <= 32)
+        // As the class of web pages: Windows has no program of its own for this kind of file.
+        SHELLEXECUTEINFOW orden = {};
+        orden.cbSize = sizeof(orden);
+        orden.fMask = SEE_MASK_CLASSNAME | SEE_MASK_FLAG_NO_UI;
+        orden.lpFile = pagina;
+        orden.lpClass = L"htmlfile";
+        orden.nShow = SW_SHOWNORMAL;
+        if (!ShellExecuteExW(&orden))
             AfxMessageBox(L"The page of this dialog:\n" + pagina, MB_ICONINFORMATION);
         return;
     }

@@ -1,7 +1,5 @@
 #include "sample/LanzadorDlg.h"
 
-#include <afxdd_.h>
-
 #include "sample/EjemploIds.h"
 
 CLanzadorDlg::CLanzadorDlg(Terreno& terreno, CWnd* padre)

@@ -37,15 +37,19 @@ Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
     });
     CLanzadorDlg lanzador(terreno);
     visita.Guion().run([&lanzador] { return lanzador.DoModal(); });
-    return {.titulo = L"The sample host", .fotos = visita.Fotos()};
+    Parada parada;
+    parada.titulo = L"The sample host";
+    parada.fotos = visita.Fotos();
+    return parada;
 }
 
 Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Terreno& terreno,
                           const CString& carpeta) {
     conversacion.prepara(terreno);
-    Parada parada{.subsistema = conversacion.subsistema,
-                  .titulo = conversacion.titulo,
-                  .antes = conversacion.ficha(terreno)};
+    Parada parada;
+    parada.subsistema = conversacion.subsistema;
+    parada.titulo = conversacion.titulo;
+    parada.antes = conversacion.ficha(terreno);
     Visita visita(carpeta, conversacion.raiz);
     conversacion.conduce(visita);
     const INT_PTR resultado =

@@ -50,11 +50,11 @@ void ConduceTriangulacion(Visita& visita) {
         dialogo.check(IDC_TRIANGULACION_TIPO_RUPTURA_2);
 
         // The ground takes part, and what bounds it; break lines are those that are named so.
-        const kit::ListView codigos = dialogo.list(IDC_TRIANGULACION_CODIGOS);
+        kit::ListView codigos = dialogo.list(IDC_TRIANGULACION_CODIGOS);
         for (const wchar_t* codigo : {L"POL-E", L"POL-T", L"MHC", L"HYD", L"GUL", L"MRK-G"})
             codigos.click(codigos.find(codigo), kit::Held::Ctrl);
         dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
-        const kit::ListView rupturas = dialogo.list(IDC_TRIANGULACION_RUPTURAS);
+        kit::ListView rupturas = dialogo.list(IDC_TRIANGULACION_RUPTURAS);
         for (const wchar_t* codigo : {L"BRK-T", L"BRK-B", L"BRK-S", L"RDG", L"VAL"})
             rupturas.click(rupturas.find(codigo), kit::Held::Ctrl);
         visita.Fotografia(dialogo.handle(), L"Filled in, right before OK.");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <afxwin.h>
+
 #include "sample/Ficha.h"
 #include "sample/Terreno.h"
 #include "sample/Visita.h"

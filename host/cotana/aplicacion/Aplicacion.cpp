@@ -4,16 +4,31 @@
 
 #include <vector>
 
-#include "cotana/aplicacion/NombresElegidos.h"
-
 namespace Cotana {
 
 namespace {
 
-/// Room for the paths of a multiple selection: what one command line could still hold.
-constexpr DWORD LongitudLista = 32768;
+/// Room for the names of a multiple selection.
+constexpr DWORD LongitudNombres = 32768;
 
 constexpr wchar_t TodosLosFicheros[] = L"All files (*.*)|*.*||";
+
+void AnadeNombre(CString& linea, const CString& nombre) {
+    constexpr wchar_t separadores[] = L" \uFEFF";
+    if (!linea.IsEmpty())
+        linea += L" ";
+    if (nombre.FindOneOf(separadores) < 0)
+        linea += nombre;
+    else
+        linea += L"\"" + nombre + L"\"";
+}
+
+CString EnUnaLinea(const CFileDialog& dialogo) {
+    CString linea;
+    for (POSITION siguiente = dialogo.GetStartPosition(); siguiente != nullptr;)
+        AnadeNombre(linea, dialogo.GetNextPathName(siguiente));
+    return linea;
+}
 
 } // namespace
 
@@ -25,28 +40,23 @@ CAplicacion::~CAplicacion() = default;
 
 BOOL CAplicacion::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
                               CDocTemplate** /*plantilla*/, int /*clase*/, void* /*reservado*/) {
-    CString textoTitulo;
-    textoTitulo.LoadString(titulo);
-
     // Windows' older dialog: the newer one ignores the flag that hides the read-only box.
     constexpr BOOL estiloNuevo = FALSE;
-    CFileDialog dialogo(abrir, nullptr, nombre, opciones, TodosLosFicheros, nullptr, 0,
+    CFileDialog dialogo(abrir, nullptr, nullptr, opciones, TodosLosFicheros, nullptr, 0,
                         estiloNuevo);
-    if (!textoTitulo.IsEmpty())
+
+    CString textoTitulo;
+    if (textoTitulo.LoadString(titulo))
         dialogo.m_ofn.lpstrTitle = textoTitulo;
 
-    std::vector<wchar_t> lista(LongitudLista, L'\0');
-    if (static_cast<DWORD>(nombre.GetLength()) < LongitudLista)
-        wcscpy_s(lista.data(), lista.size(), nombre);
-    dialogo.m_ofn.lpstrFile = lista.data();
-    dialogo.m_ofn.nMaxFile = LongitudLista;
+    std::vector<wchar_t> nombres(LongitudNombres);
+    wcsncpy_s(nombres.data(), nombres.size(), nombre, _TRUNCATE);
+    dialogo.m_ofn.lpstrFile = nombres.data();
+    dialogo.m_ofn.nMaxFile = LongitudNombres;
 
     if (dialogo.DoModal() != IDOK)
         return FALSE;
-    if (opciones & OFN_ALLOWMULTISELECT)
-        nombre = UneNombresElegidos(lista.data());
-    else
-        nombre = lista.data();
+    nombre = (opciones & OFN_ALLOWMULTISELECT) ? EnUnaLinea(dialogo) : dialogo.GetPathName();
     return TRUE;
 }
 

@@ -10,7 +10,7 @@ namespace Cotana {
 class COTANA_API CDigiTab {
 public:
     /// What `Busca` returns when the table has no such code.
-    static constexpr unsigned int NoEsta = ~0U;
+    enum : unsigned int { NoEsta = ~0U };
 
     CDigiTab();
     CDigiTab(const CDigiTab&);

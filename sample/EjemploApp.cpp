@@ -30,6 +30,7 @@ CEjemploApp::CEjemploApp() : CAplicacion(L"Ejemplo") {}
 
 BOOL CEjemploApp::InitInstance() {
     CAplicacion::InitInstance();
+    EnableHtmlHelp(); // F1 comes to HtmlHelp, as the Help buttons do
 
     LineaOrdenes linea = LineaDelPrograma();
     if (linea.ficheroCodigos.IsEmpty())

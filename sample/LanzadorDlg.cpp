@@ -21,8 +21,8 @@ BOOL CLanzadorDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     CenterWindow();
     m_Ficha.InsertColumn(0, L"Field", LVCFMT_LEFT, 130);
-    m_Ficha.InsertColumn(1, L"Before", LVCFMT_LEFT, 190);
-    m_Ficha.InsertColumn(2, L"After", LVCFMT_LEFT, 190);
+    m_Ficha.InsertColumn(1, L"Before", LVCFMT_LEFT, 170);
+    m_Ficha.InsertColumn(2, L"After", LVCFMT_LEFT, 170);
     m_Ficha.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
     LlenaArbol();
     return TRUE;

@@ -164,6 +164,23 @@ TEST_F(TriangulacionDlg, ShowsTheRecord) {
     });
 }
 
+TEST_F(TriangulacionDlg, OpensInTheMiddleOfItsOwner) {
+    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.owner(), ventana);
+        RECT duena{};
+        GetWindowRect(ventana, &duena);
+        const RECT marco = dialogo.rect();
+        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
+        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
+        dialogo.press(IDCANCEL);
+    });
+    script.run([&] { return CTriangulacionDlg(data, CWnd::FromHandle(ventana)).DoModal(); });
+    DestroyWindow(ventana);
+}
+
 TEST_F(TriangulacionDlg, HasItsSmallIconOnly) {
     Abre([](kit::Dialog& dialogo) {
         const auto nombre = MAKEINTRESOURCEW(IDI_TRIANGULACION);
@@ -603,6 +620,69 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedAtAChangeOfTheCodesAndThenReplaced) {
         EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
         EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
         dialogo.press(IDCANCEL);
+    });
+}
+
+// By keyboard alone.
+
+TEST_F(TriangulacionDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        // Of a radio group only the chosen button is a stop.
+        const std::vector<int> orden = {IDC_TRIANGULACION_NOMBRE,
+                                        Codigos,
+                                        IDC_TRIANGULACION_TODOS_CODIGOS,
+                                        IDC_TRIANGULACION_NINGUN_CODIGO,
+                                        IDC_TRIANGULACION_USAR_RUPTURAS,
+                                        Rupturas,
+                                        IDC_TRIANGULACION_TODAS_RUPTURAS,
+                                        IDC_TRIANGULACION_NINGUNA_RUPTURA,
+                                        IDC_TRIANGULACION_TIPO_RUPTURA_3,
+                                        IDC_TRIANGULACION_LIMITE_INFERIOR,
+                                        IDC_TRIANGULACION_LIMITE_SUPERIOR,
+                                        IDC_TRIANGULACION_PARAMETRO_EXTRA,
+                                        IDC_TRIANGULACION_NO_UNIR_CURVAS,
+                                        IDC_TRIANGULACION_DISTANCIA_NO_UNIR,
+                                        IDOK,
+                                        IDCANCEL};
+        std::vector<int> recorrido;
+        for (std::size_t i = 0; i < orden.size(); ++i) {
+            recorrido.push_back(dialogo.focus());
+            kit::keyboard::press(VK_TAB);
+        }
+        EXPECT_EQ(recorrido, orden);
+        EXPECT_EQ(dialogo.focus(), orden.front());
+        kit::keyboard::press(VK_ESCAPE);
+    });
+}
+
+TEST_F(TriangulacionDlg, EnterIsOkAndEscapeIsCancel) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
+                  kit::keyboard::press(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+}
+
+TEST_F(TriangulacionDlg, KeysChooseOneCode) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.focusOn(Codigos);
+        kit::keyboard::press(VK_END);
+        kit::keyboard::press(VK_UP);
+        EXPECT_EQ(dialogo.list(Codigos).selected(), Filas{2});
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), Textos{L"TR"});
+        EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), Textos{L"TR"});
+        kit::keyboard::press(VK_ESCAPE);
+    });
+}
+
+TEST_F(TriangulacionDlg, SpaceClearsACheckBox) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.focusOn(IDC_TRIANGULACION_USAR_RUPTURAS);
+        kit::keyboard::press(VK_SPACE);
+        EXPECT_FALSE(dialogo.checked(IDC_TRIANGULACION_USAR_RUPTURAS));
+        EXPECT_FALSE(data.m_Rupturas);
+        kit::keyboard::press(VK_ESCAPE);
     });
 }
 

@@ -2,6 +2,7 @@
 #   cmake -P cmake/CheckStems.cmake
 cmake_minimum_required(VERSION 3.25)
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
+file(READ ${root}/cuadros/Cuadros.h umbrella)
 file(READ ${root}/sample/Conversaciones.cpp conversations)
 file(GLOB headers RELATIVE ${root}/cuadros ${root}/cuadros/*/*Dlg.h)
 
@@ -14,6 +15,9 @@ foreach(header ${headers})
       list(APPEND missing ${piece})
     endif()
   endforeach()
+  if(NOT umbrella MATCHES "${header}")
+    list(APPEND missing "the line of ${stem} in cuadros/Cuadros.h")
+  endif()
   if(NOT conversations MATCHES "L\"${stem}\"")
     list(APPEND missing "the row of ${stem} in sample/Conversaciones.cpp")
   endif()

@@ -22,14 +22,23 @@ install(
         ${CUADROS_COMPILER_RUNTIME}
   DESTINATION bin)
 
+install(DIRECTORY framework/include/ DESTINATION include/framework)
 install(
-  DIRECTORY framework/include/
-  DESTINATION include/framework)
-install(
-  DIRECTORY host/cotana cuadros
+  DIRECTORY host/cotana
   DESTINATION include
   FILES_MATCHING
   PATTERN "*.h")
+# Of the library only what is exported, with the numbers of its controls and texts.
+install(
+  DIRECTORY cuadros
+  DESTINATION include
+  FILES_MATCHING
+  PATTERN "Cuadros.h"
+  PATTERN "Exporta.h"
+  PATTERN "*Dlg.h"
+  PATTERN "*Ids.h"
+  PATTERN "icons" EXCLUDE
+  PATTERN "en-US" EXCLUDE)
 
 install(EXPORT CuadrosTargets NAMESPACE Cuadros:: DESTINATION ${package})
 configure_package_config_file(cmake/CuadrosConfig.cmake.in CuadrosConfig.cmake

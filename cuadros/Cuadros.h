@@ -1,4 +1,4 @@
-// Every dialog of the library.
+// All dialogs of the library.
 #pragma once
 
 #include "cuadros/triangulation/TriangulacionDlg.h"

@@ -1,7 +1,7 @@
 // A host with nothing but the installed package: opens the dialog over a record of its own and
 // ends with 0 when what came back is what was accepted.
 #include <cotana/aplicacion/Aplicacion.h>
-#include <cuadros/triangulation/TriangulacionDlg.h>
+#include <cuadros/Cuadros.h>
 
 using namespace Cotana;
 

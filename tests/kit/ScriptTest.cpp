@@ -199,7 +199,7 @@ TEST(Script, FailsOnAMessageBoxThatIsNotOwnedByTheDialog) {
         script.run([&] { return dialog.open(); });
     });
     ASSERT_EQ(failures.size(), 1U);
-    EXPECT_TRUE(contains(failures[0], "owner: none\n  expected: the dialog \"D\""));
+    EXPECT_TRUE(contains(failures[0], "owner: none\n  expected: \"D\" ("));
 }
 
 TEST(Script, FailsOnAMessageBoxThatNeverComes) {
@@ -318,4 +318,43 @@ TEST(Script, DismissesAMessageBoxWithoutCancel) {
         EXPECT_EQ(script.run([] { return MessageBoxW(nullptr, L"T", L"C", MB_YESNO); }), IDNO);
     });
     EXPECT_EQ(failures.size(), 1U);
+}
+
+TEST(Script, FailsWhenItIsNeverRun) {
+    const auto failures = failuresOf([] {
+        Script script;
+        script.onDialog([](Dialog&) {});
+    });
+    ASSERT_EQ(failures.size(), 1U);
+    EXPECT_TRUE(contains(failures[0], "never run"));
+}
+
+TEST(Script, KnowsTheOwnerOfAMessageThatComesBeforeItsDialogIsShown) {
+    const RawDialog dialog =
+        RawDialog(L"Early").button(IDCANCEL, L"Cancel").onInit([](HWND window) {
+            MessageBoxW(window, L"T", L"C", MB_OK);
+        });
+    Script script;
+    script.expectMessage(L"C", L"T", 0).ownedByDialog();
+    script.onDialog([](Dialog& d) { d.press(IDCANCEL); });
+    EXPECT_EQ(script.run([&] { return dialog.open(); }), IDCANCEL);
+}
+
+TEST(Script, KnowsTheOwnerOfAMessageThatComesAfterANestedDialog) {
+    const RawDialog inner = RawDialog(L"Inner").button(IDOK, L"OK");
+    const RawDialog dialog = RawDialog(L"Outer")
+                                 .button(openButton, L"Open")
+                                 .button(IDCANCEL, L"Cancel")
+                                 .onCommand([&](HWND window, int, int) {
+                                     inner.open(window);
+                                     MessageBoxW(window, L"T", L"C", MB_OK);
+                                 });
+    Script script;
+    script.onDialog([](Dialog& d) {
+        d.press(openButton);
+        d.press(IDCANCEL);
+    });
+    script.onDialog(kit::titled(L"Inner"), [](Dialog& d) { d.press(IDOK); });
+    script.expectMessage(L"C", L"T", 0).ownedByDialog();
+    EXPECT_EQ(script.run([&] { return dialog.open(); }), IDCANCEL);
 }

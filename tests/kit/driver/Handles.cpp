@@ -61,8 +61,10 @@ void settle(HANDLE heap) {
 
 } // namespace
 
-// The documented GetGuiResources is without function on Wine.
+// The documented GetGuiResources counts nothing on Wine.
 int gdiCount() {
+    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS))
+        return static_cast<int>(count);
     const auto* const environment = reinterpret_cast<const std::byte*>(RtlGetCurrentPeb());
     const auto* const table =
         *reinterpret_cast<const GdiEntry* const*>(environment + gdiTableInEnvironment);
@@ -73,6 +75,8 @@ int gdiCount() {
 }
 
 int userCount() {
+    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS))
+        return static_cast<int>(count);
     int count = 0;
     for (std::uintptr_t value = firstUserHandle; value <= lastUserHandle; value += 2) {
         if (isOwnWindow(reinterpret_cast<HWND>(value)) || IsMenu(reinterpret_cast<HMENU>(value)) ||

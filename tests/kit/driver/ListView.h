@@ -38,7 +38,7 @@ public:
     void click(int row, Held held = Held::Nothing, Where where = Where::current());
     void doubleClick(int row, Where where = Where::current());
 
-    /// Selects exactly these rows with the real mouse, in this order.
+    /// Selects exactly these rows with the real mouse, in this order; none: clears.
     void choose(const std::vector<int>& rows, Where where = Where::current());
 
     /// Changes the state of one row directly; the notification comes as from a person.

@@ -3,6 +3,7 @@
 #include "kit/picture/WindowTree.h"
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 namespace kit {
@@ -71,6 +72,22 @@ std::vector<int> buttonsOf(UINT flags) {
     return buttons;
 }
 
+/// The dialog next below a message box, or null; it need not be shown yet.
+HWND dialogBelow(HWND box) {
+    for (const HWND window : topLevelWindows(GetCurrentThreadId())) // from the top
+        if (window != box && classOf(window) == L"#32770")
+            return window;
+    return nullptr;
+}
+
+std::string windowName(HWND window) {
+    if (window == nullptr)
+        return "none";
+    std::ostringstream name;
+    name << inQuotes(textOf(window)) << " (" << window << ")";
+    return name.str();
+}
+
 } // namespace
 
 MessageExpectation::MessageExpectation(Text caption, Text text, UINT icon, const Where& where)
@@ -106,7 +123,7 @@ std::string MessageExpectation::describe() const {
     return "the message box " + (text_ ? inQuotes(*text_) : "of any text");
 }
 
-void MessageExpectation::meet(HWND window, HWND latestDialog) const {
+void MessageExpectation::meet(HWND window) const {
     MessageDialog box(window);
     std::string differences;
     const auto compare = [&](const char* what, const std::string& expected,
@@ -129,10 +146,8 @@ void MessageExpectation::meet(HWND window, HWND latestDialog) const {
     }
     if (defaultButton_)
         compare("default button", buttonName(*defaultButton_), buttonName(box.defaultButton()));
-    if (ownedByDialog_ && box.owner() != latestDialog)
-        differences +=
-            "\n  owner: " + (box.owner() == nullptr ? "none" : inQuotes(textOf(box.owner()))) +
-            "\n  expected: the dialog " + inQuotes(textOf(latestDialog));
+    if (ownedByDialog_)
+        compare("owner", windowName(dialogBelow(window)), windowName(box.owner()));
     if (!differences.empty())
         fail("The message box is another one than expected." + differences, where_);
     if (look_)

@@ -24,7 +24,7 @@ public:
     /// The button that Enter presses: IDOK, IDNO, ...
     MessageExpectation& defaultButton(int button);
 
-    /// The box is owned by the dialog in which the step before it ran.
+    /// The box is owned by the dialog that is open right below it.
     MessageExpectation& ownedByDialog();
 
     /// Looks at the open box before it is answered.
@@ -39,7 +39,7 @@ public:
     std::string describe() const;
 
     /// Compares the open box, notes each difference as a failure, and answers it.
-    void meet(HWND box, HWND latestDialog) const;
+    void meet(HWND box) const;
 
 private:
     Where where_;

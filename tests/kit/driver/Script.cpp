@@ -65,7 +65,10 @@ struct Script::Item {
 };
 
 Script::Script() = default;
-Script::~Script() = default;
+Script::~Script() {
+    if (!items_.empty())
+        fail("The script was never run.", items_.front()->where);
+}
 
 Script& Script::onDialog(Step step, Where where) {
     return onDialog(nullptr, std::move(step), where);
@@ -98,7 +101,6 @@ void Script::begin(const Where& where) {
     where_ = where;
     givenUp_ = false;
     idle_ = 0;
-    latest_ = nullptr;
     known_.clear();
     dismissals_.clear();
     const std::vector<HWND> present = topLevelWindows(GetCurrentThreadId());
@@ -171,10 +173,9 @@ void Script::perform(Item& item, HWND window) {
     driven_.push_back(window);
     try {
         if (item.message) {
-            item.message->meet(window, latest_);
+            item.message->meet(window);
         } else {
             known_.insert(window);
-            latest_ = window;
             Dialog dialog(window);
             item.step(dialog);
         }

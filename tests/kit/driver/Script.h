@@ -41,6 +41,7 @@ public:
     using Step = std::function<void(Dialog&)>;
 
     Script();
+    /// A script with steps that was never run is a failure.
     ~Script();
     Script(const Script&) = delete;
     Script& operator=(const Script&) = delete;
@@ -108,7 +109,6 @@ private:
     Where where_;
     std::optional<Watchdog> watchdog_;
     HWND timer_ = nullptr;
-    HWND latest_ = nullptr; // the dialog of the latest step
     Script* outer_ = nullptr;
     int patience_ = 200;
     int idle_ = 0;

@@ -3,8 +3,8 @@
 #include "disabled_window.h"
 
 #include <algorithm>
+#include <colordlg.h>
 #include <cwchar>
-#include <dlgs.h>
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CColorDialog, CCommonDialog)
@@ -39,6 +39,11 @@ Result Guarded(Call call, Result fallback) {
     return fallback;
 }
 
+UINT ColorOkMessage() {
+    static const UINT message = ::RegisterWindowMessage(COLOROKSTRING);
+    return message;
+}
+
 } // namespace
 
 // CCommonDialog
@@ -68,8 +73,16 @@ CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
 
 INT_PTR CColorDialog::DoModal() {
     m_cc.lCustData = reinterpret_cast<LPARAM>(this);
-    const INT_PTR result =
-        RunModal(m_pParentWnd, m_cc.hwndOwner, [this] { return ::ChooseColor(&m_cc); });
+    const INT_PTR result = RunModal(m_pParentWnd, m_cc.hwndOwner, [this] {
+        // Wine tells the owner, and not the hook, that the user takes the colour.
+        const HWND owner = m_cc.hwndOwner;
+        const auto self = reinterpret_cast<DWORD_PTR>(this);
+        const BOOL watching = ::SetWindowSubclass(owner, WatchOwner, self, self);
+        const BOOL taken = ::ChooseColor(&m_cc);
+        if (watching)
+            ::RemoveWindowSubclass(owner, WatchOwner, self);
+        return taken;
+    });
     Detach();
     return result;
 }
@@ -81,6 +94,10 @@ COLORREF CColorDialog::GetColor() const {
 void CColorDialog::SetCurrentColor(COLORREF clr) {
     static const UINT setColor = ::RegisterWindowMessage(SETRGBSTRING);
     SendMessage(setColor, 0, static_cast<LPARAM>(clr));
+    // Wine does not know that message, but reads the fields.
+    SetDlgItemInt(COLOR_RED, GetRValue(clr), FALSE);
+    SetDlgItemInt(COLOR_GREEN, GetGValue(clr), FALSE);
+    SetDlgItemInt(COLOR_BLUE, GetBValue(clr), FALSE);
 }
 
 COLORREF* PASCAL CColorDialog::GetSavedCustomColors() {
@@ -97,16 +114,25 @@ BOOL CColorDialog::OnColorOK() {
     return FALSE;
 }
 
+bool CColorDialog::Refuses() {
+    return Guarded([this] { return OnColorOK(); }, TRUE);
+}
+
 UINT_PTR CALLBACK CColorDialog::Hook(HWND window, UINT message, WPARAM, LPARAM lParam) {
-    static const UINT colorOk = ::RegisterWindowMessage(COLOROKSTRING);
     if (message == WM_INITDIALOG) {
         const auto& cc = *reinterpret_cast<const CHOOSECOLOR*>(lParam);
         reinterpret_cast<CColorDialog*>(cc.lCustData)->Attach(window);
-    } else if (message == colorOk) {
-        const auto dialog = static_cast<CColorDialog*>(FromHandlePermanent(window));
-        return Guarded([dialog] { return dialog->OnColorOK(); }, TRUE);
+    } else if (message == ColorOkMessage()) {
+        return static_cast<CColorDialog*>(FromHandlePermanent(window))->Refuses();
     }
     return 0;
+}
+
+LRESULT CALLBACK CColorDialog::WatchOwner(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR, DWORD_PTR dialog) {
+    if (message == ColorOkMessage())
+        return reinterpret_cast<CColorDialog*>(dialog)->Refuses();
+    return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
 // CFileDialog

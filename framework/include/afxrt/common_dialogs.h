@@ -47,6 +47,9 @@ protected:
 
 private:
     static UINT_PTR CALLBACK Hook(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK WatchOwner(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                       UINT_PTR id, DWORD_PTR dialog);
+    bool Refuses();
 };
 
 /// Asks for files to open or for a name to save under.

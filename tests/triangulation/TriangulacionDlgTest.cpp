@@ -733,6 +733,49 @@ TEST_F(TriangulacionDlg, HostDerivesFromItAndRunsUnderItsOwnState) {
     EXPECT_NE(derivado.aplicacion, nullptr);
 }
 
+/// Writes down each exchange: S for one that saves into the record, M for one that shows it.
+class CContador : public CTriangulacionDlg {
+public:
+    using CTriangulacionDlg::CTriangulacionDlg;
+
+    std::string intercambios;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
+        CTriangulacionDlg::DoDataExchange(pDX);
+    }
+};
+
+TEST_F(TriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
+    data.m_Codigos = Tabla({{L"RD", L"Road edge"}, {L"WL", L"Wall"}});
+    CContador contador(data);
+    const auto desdeAntes = [&] { return std::exchange(contador.intercambios, {}); };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& dialogo) {
+        // The framework's own and the dialog's, three for each code that is selected, and two more.
+        EXPECT_EQ(desdeAntes(), "MM"
+                                "SSM"
+                                "SSM"
+                                "SS");
+        dialogo.list(Codigos).select(0, false);
+        EXPECT_EQ(desdeAntes(), "SSM");
+        dialogo.list(Rupturas).select(0, false);
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        dialogo.click(IDC_TRIANGULACION_TIPO_RUPTURA_1);
+        EXPECT_EQ(desdeAntes(), "");
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_EQ(desdeAntes(), "S");
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        EXPECT_EQ(desdeAntes(), "S");
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        desdeAntes();
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return contador.DoModal(); }), IDOK);
+    EXPECT_EQ(desdeAntes(), "SS");
+}
+
 TEST_F(TriangulacionDlg, HasNoClassInformationOfItsOwn) {
     EXPECT_EQ(CTriangulacionDlg(data).GetRuntimeClass(), RUNTIME_CLASS(CDialog));
 }

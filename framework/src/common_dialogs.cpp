@@ -32,11 +32,14 @@ Result Guarded(Call call, Result fallback) {
     try {
         return call();
     } catch (CException* e) {
-        e->ReportError();
+        const MSG none = {};
+        if (CWinThread* thread = AfxGetThread())
+            thread->ProcessWndProcException(e, &none);
         e->Delete();
+        return fallback;
     } catch (...) {
+        return fallback;
     }
-    return fallback;
 }
 
 UINT ColorOkMessage() {

@@ -343,6 +343,24 @@ TEST_F(FileDialog, StaysOpenOverANameThatIsRefused) {
     EXPECT_STREQ(dialog.GetFileName(), L"y.txt");
 }
 
+/// Fails to judge the name.
+class FailingFileDialog : public CFileDialog {
+public:
+    FailingFileDialog() : CFileDialog(FALSE, nullptr, L"z.txt", 0, nullptr, nullptr, 0, FALSE) {}
+
+protected:
+    BOOL OnFileNameOK() override { AfxThrowUserException(); }
+};
+
+TEST_F(FileDialog, LetsNoExceptionThroughTheSystem) {
+    FailingFileDialog dialog;
+    In(dialog);
+    script.onDialog([](Dialog& d) { d.press(IDOK); });
+    script.onDialog([](Dialog& d) { d.press(IDCANCEL); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_TRUE(window.IsWindowEnabled());
+}
+
 TEST(FileDialogNames, AreTakenApart) {
     const CFileDialog dialog(TRUE, nullptr, L"C:\\plans.v2\\readme");
     EXPECT_STREQ(dialog.GetPathName(), L"C:\\plans.v2\\readme");

@@ -2,6 +2,9 @@
 // that state, and its entry point.
 #include <afxwin.h>
 
+#include <new>
+#include <utility>
+
 namespace {
 
 LRESULT CALLBACK ModuleWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -35,6 +38,20 @@ LRESULT CALLBACK ModuleWndProc(HWND window, UINT message, WPARAM wParam, LPARAM 
     return AfxWndProc(window, message, wParam, lParam);
 }
 
+// Offers the module's resources to the process. False when there is no memory for that.
+bool AddToChain(HINSTANCE instance) {
+    try {
+        if (!AfxInitExtensionModule(extensionModule, instance))
+            return false;
+        new CDynLinkLibrary(extensionModule); // the chain owns it
+        return true;
+    } catch (CMemoryException* e) {
+        e->Delete();
+    } catch (const std::bad_alloc&) { // the language's own word for it
+    }
+    return false;
+}
+
 // The whole start, or nothing: what was begun before a failure is undone.
 bool Start(HINSTANCE instance) {
     wchar_t noCommandLine[] = L"";
@@ -48,11 +65,7 @@ bool Start(HINSTANCE instance) {
         AfxWinTerm();
         return false;
     }
-    try {
-        AfxInitExtensionModule(extensionModule, instance);
-        new CDynLinkLibrary(extensionModule); // the chain owns it
-    } catch (CMemoryException* e) {
-        e->Delete();
+    if (!AddToChain(instance)) {
         if (app)
             app->ExitInstance();
         AfxWinTerm();

@@ -2,12 +2,15 @@
 
 #include "afxres.h"
 #include "afxrt/wnd.h"
+#include "disabled_window.h"
+#include "module_file.h"
 #include "thread_state.h"
 
 #include <cwchar>
 #include <string>
 
 using afx_internal::HandleOf;
+using afx_internal::WithoutExtension;
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
@@ -18,16 +21,14 @@ void Replace(LPCTSTR& member, const wchar_t* text) {
     member = text ? ::_wcsdup(text) : nullptr;
 }
 
-// The path of a file with another extension.
-std::wstring WithExtension(const std::wstring& path, const wchar_t* extension) {
-    const std::size_t dot = path.find_last_of(L".\\/");
-    const bool has = dot != std::wstring::npos && path[dot] == L'.';
-    return (has ? path.substr(0, dot) : path) + extension;
-}
-
 std::wstring FileTitle(const std::wstring& path) {
     const std::size_t slash = path.find_last_of(L"\\/");
-    return WithExtension(slash == std::wstring::npos ? path : path.substr(slash + 1), L"");
+    return WithoutExtension(slash == std::wstring::npos ? path : path.substr(slash + 1));
+}
+
+// The help file that goes with a path.
+std::wstring HelpFile(const std::wstring& path, AFX_HELP_TYPE type) {
+    return WithoutExtension(path) + (type == afxHTMLHelp ? L".CHM" : L".HLP");
 }
 
 } // namespace
@@ -39,10 +40,8 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pState(AfxGetModuleState()) {
 }
 
 CWinApp::~CWinApp() {
-    if (m_pState->m_pCurrentWinApp == this) {
+    if (m_pState->m_pCurrentWinApp == this)
         m_pState->m_pCurrentWinApp = nullptr;
-        m_pState->m_lpszCurrentAppName = nullptr;
-    }
     for (LPCTSTR* name :
          {&m_pszAppName, &m_pszExeName, &m_pszHelpFilePath, &m_pszProfileName, &m_pszRegistryKey})
         Replace(*name, nullptr);
@@ -68,8 +67,7 @@ int CWinApp::Run() {
 }
 
 void CWinApp::SetCurrentHandles() {
-    std::wstring path(32768, L'\0');
-    path.resize(::GetModuleFileName(m_hInstance, path.data(), static_cast<DWORD>(path.size())));
+    const std::wstring path = afx_internal::ModulePath(m_hInstance);
     const std::wstring title = FileTitle(path);
     if (!m_pszExeName)
         Replace(m_pszExeName, title.c_str());
@@ -80,10 +78,8 @@ void CWinApp::SetCurrentHandles() {
             name = m_pszExeName;
         Replace(m_pszAppName, name);
     }
-    m_pState->m_lpszCurrentAppName = m_pszAppName;
     if (!m_pszHelpFilePath)
-        Replace(m_pszHelpFilePath,
-                WithExtension(path, m_eHelpType == afxHTMLHelp ? L".CHM" : L".HLP").c_str());
+        Replace(m_pszHelpFilePath, HelpFile(path, m_eHelpType).c_str());
     if (!m_pszProfileName)
         Replace(m_pszProfileName, (title + L".INI").c_str());
 }
@@ -95,9 +91,7 @@ void CWinApp::EnableHtmlHelp() {
 void CWinApp::SetHelpMode(AFX_HELP_TYPE eHelpType) {
     m_eHelpType = eHelpType;
     if (m_pszHelpFilePath)
-        Replace(
-            m_pszHelpFilePath,
-            WithExtension(m_pszHelpFilePath, eHelpType == afxHTMLHelp ? L".CHM" : L".HLP").c_str());
+        Replace(m_pszHelpFilePath, HelpFile(m_pszHelpFilePath, eHelpType).c_str());
 }
 
 AFX_HELP_TYPE CWinApp::GetHelpMode() {
@@ -213,18 +207,11 @@ namespace {
 
 int ShowMessage(LPCTSTR text, LPCTSTR caption, UINT type) {
     if ((type & MB_ICONMASK) == 0)
-        type |= (type & MB_TYPEMASK) == MB_YESNO || (type & MB_TYPEMASK) == MB_YESNOCANCEL
-                    ? MB_ICONQUESTION
-                    : MB_ICONEXCLAMATION;
+        type |= MB_ICONEXCLAMATION;
     HWND top = nullptr;
     const CWnd* owner = CWnd::GetSafeOwner(nullptr, &top);
-    const bool disableTop = top && ::IsWindowEnabled(top);
-    if (disableTop)
-        ::EnableWindow(top, FALSE);
-    const int result = ::MessageBox(HandleOf(owner), text, caption, type);
-    if (disableTop)
-        ::EnableWindow(top, TRUE);
-    return result;
+    const afx_internal::DisabledWindow disabled(top);
+    return ::MessageBox(HandleOf(owner), text, caption, type);
 }
 
 } // namespace

@@ -87,12 +87,15 @@ UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault
     if (!m_pszRegistryKey)
         return ::GetPrivateProfileInt(lpszSection, lpszEntry, nDefault, m_pszProfileName);
     const RegistryKey section(GetSectionKey(lpszSection));
-    const std::vector<BYTE> value = ReadValue(section, lpszEntry, REG_DWORD);
-    if (value.size() != sizeof(DWORD))
+    DWORD type = REG_NONE;
+    DWORD number = 0;
+    DWORD bytes = sizeof number;
+    const LSTATUS status = section ? ::RegQueryValueEx(section, lpszEntry, nullptr, &type,
+                                                       reinterpret_cast<BYTE*>(&number), &bytes)
+                                   : ERROR_FILE_NOT_FOUND;
+    if (status == ERROR_FILE_NOT_FOUND)
         return static_cast<UINT>(nDefault);
-    DWORD number;
-    std::memcpy(&number, value.data(), sizeof number);
-    return number;
+    return status == ERROR_SUCCESS && type == REG_DWORD ? number : 0;
 }
 
 BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue) {
@@ -106,11 +109,15 @@ BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault) {
     const LPCTSTR fallback = lpszDefault ? lpszDefault : L"";
     if (!m_pszRegistryKey) {
-        std::vector<wchar_t> text(4096);
-        const DWORD length =
-            ::GetPrivateProfileString(lpszSection, lpszEntry, fallback, text.data(),
-                                      static_cast<DWORD>(text.size()), m_pszProfileName);
-        return CString(text.data(), static_cast<int>(length));
+        std::vector<wchar_t> text(MAX_PATH);
+        for (;;) {
+            const DWORD length =
+                ::GetPrivateProfileString(lpszSection, lpszEntry, fallback, text.data(),
+                                          static_cast<DWORD>(text.size()), m_pszProfileName);
+            if (length + 1 < text.size())
+                return CString(text.data(), static_cast<int>(length));
+            text.resize(text.size() * 2); // it may have been cut off
+        }
     }
     const RegistryKey section(GetSectionKey(lpszSection));
     const std::vector<BYTE> value = ReadValue(section, lpszEntry, REG_SZ);

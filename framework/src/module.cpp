@@ -3,6 +3,8 @@
 #include "afxrt/app.h"
 #include "afxrt/handle_map.h"
 #include "afxrt/wnd.h"
+#include "module_file.h"
+#include "start_fault.h"
 #include "thread_state.h"
 
 using afx_internal::CurrentThread;
@@ -18,13 +20,6 @@ namespace {
 
 StartFault armedFault = StartFault::none;
 
-bool FailsHere(StartFault step) {
-    if (armedFault != step)
-        return false;
-    armedFault = StartFault::none;
-    return true;
-}
-
 // Windows made under the application's state.
 LRESULT CALLBACK ApplicationWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     AFX_MANAGE_STATE(AfxGetAppModuleState());
@@ -33,11 +28,12 @@ LRESULT CALLBACK ApplicationWndProc(HWND window, UINT message, WPARAM wParam, LP
 
 } // namespace
 
-bool FailsAtChainEntry() {
-    return FailsHere(StartFault::chainEntry);
+bool FailsHere(StartFault step) {
+    if (armedFault != step)
+        return false;
+    armedFault = StartFault::none;
+    return true;
 }
-
-HINSTANCE LoadLanguageModule(HMODULE module);
 
 void ArmStartFault(StartFault fault) {
     armedFault = fault;
@@ -109,7 +105,8 @@ void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
 }
 
 LPCTSTR AFXAPI AfxGetAppName() {
-    return AfxGetModuleState()->m_lpszCurrentAppName;
+    const CWinApp* app = AfxGetApp();
+    return app ? app->m_pszAppName : nullptr;
 }
 
 BOOL AFXAPI AfxCoreInitModule() {

@@ -23,7 +23,6 @@ public:
     CWinApp* m_pCurrentWinApp = nullptr;
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
     HINSTANCE m_hCurrentResourceHandle = nullptr;
-    LPCTSTR m_lpszCurrentAppName = nullptr;
     const BOOL m_bDLL;
     const WNDPROC m_pfnAfxWndProc;
     /// Language module of an application; a DLL's is in its resource-chain entry.
@@ -65,8 +64,9 @@ AFXRT_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
 AFXRT_API LPCTSTR AFXAPI AfxGetAppName();
 
 /// The module that holds a resource. Searched in this order: the current module's resources
-/// and its language module's; the chain's modules, newest first, and then their language
-/// modules; the framework itself. NULL: no module has it.
+/// (AfxGetResourceHandle); the chain's modules, newest first; the language modules, the current
+/// module's and then the chain's; the chain's system modules; the framework itself. NULL: no
+/// module has it.
 AFXRT_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
 /// Reads a string of the resource chain into a buffer; its length, 0 when there is none.
 AFXRT_API int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);

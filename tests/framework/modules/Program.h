@@ -1,0 +1,67 @@
+// The test program's side: loading modules, reading the diary, folders for their files.
+#pragma once
+
+#include <afxwin.h>
+
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
+/// One entry of the diary: what happened, and which state and application object were current.
+struct DiaryEntry {
+    std::string what;
+    AFX_MODULE_STATE* state;
+    CWinApp* app;
+    bool operator==(const DiaryEntry&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const DiaryEntry& entry);
+
+/// Returns the diary's entries and begins an empty one.
+std::vector<DiaryEntry> TakeDiary();
+
+/// What happened, without the states.
+std::vector<std::string> Events(const std::vector<DiaryEntry>& diary);
+
+/// A module, from LoadLibrary to FreeLibrary.
+class LoadedModule {
+public:
+    explicit LoadedModule(const std::wstring& path);
+    ~LoadedModule() { Free(); }
+    LoadedModule(const LoadedModule&) = delete;
+    LoadedModule& operator=(const LoadedModule&) = delete;
+
+    HMODULE handle() const { return m_module; }
+    /// The system's error number of a load that failed.
+    DWORD error() const { return m_error; }
+    void Free();
+
+    /// Calls a function that the module exports by its plain name.
+    template <class Result>
+    Result Call(const char* function) const {
+        return reinterpret_cast<Result (*)()>(
+            reinterpret_cast<void*>(::GetProcAddress(m_module, function)))();
+    }
+
+private:
+    HMODULE m_module;
+    DWORD m_error;
+};
+
+/// A folder that goes, with all that is in it, at the end.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+    /// Copies a module that stands beside the test program into the folder, under a name which
+    /// may have folders before it. The result is the copy's path.
+    std::wstring Put(const std::wstring& module, const std::wstring& name) const;
+
+private:
+    std::filesystem::path m_path;
+};

@@ -4,6 +4,8 @@
 #include "afxrt/gdi.h"
 #include "afxrt/handle_map.h"
 
+#include "disabled_window.h"
+
 #include <cwchar>
 
 using afx_internal::HandleOf;
@@ -40,27 +42,6 @@ INT_PTR CALLBACK DialogProc(HWND, UINT message, WPARAM, LPARAM) {
     // be about something else.
     return message == WM_HELP;
 }
-
-// Windows that the user cannot reach as long as this lives.
-class Disabled {
-public:
-    explicit Disabled(HWND window)
-        : m_window(window && ::IsWindowEnabled(window) ? window : nullptr) {
-        if (m_window)
-            ::EnableWindow(m_window, FALSE);
-    }
-    ~Disabled() { Enable(); }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-    void Enable() {
-        if (m_window)
-            ::EnableWindow(m_window, TRUE);
-        m_window = nullptr;
-    }
-
-private:
-    HWND m_window;
-};
 
 } // namespace
 
@@ -123,8 +104,8 @@ INT_PTR CDialog::DoModal() {
 
     HWND top = nullptr;
     const HWND owner = HandleOf(CWnd::GetSafeOwner(m_pParentWnd, &top));
-    Disabled disabledOwner(owner);
-    const Disabled disabledTop(top);
+    afx_internal::DisabledWindow disabledOwner(owner);
+    const afx_internal::DisabledWindow disabledTop(top);
 
     m_nModalResult = -1;
     m_bModalEnded = false;

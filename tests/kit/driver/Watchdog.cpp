@@ -33,6 +33,7 @@ struct Watch {
     DWORD thread = 0;
     Clock::time_point latest;
     std::string waitingFor;
+    bool ready = false;
     bool over = false;
 };
 
@@ -67,6 +68,10 @@ void guardThread(std::chrono::seconds limit) {
     // The windows of another desktop could not be seen from here.
     SetThreadDesktop(GetThreadDesktop(w.thread));
     std::unique_lock lock(w.mutex);
+    // What a thread allocates at its first wait must not disturb who counts the heap later.
+    w.changed.wait_for(lock, std::chrono::seconds(0));
+    w.ready = true;
+    w.changed.notify_all();
     while (!w.over) {
         const Clock::time_point end = w.latest + limit;
         if (w.changed.wait_until(lock, end) == std::cv_status::timeout && !w.over &&
@@ -85,7 +90,10 @@ Watchdog::Watchdog() {
     w.latest = Clock::now();
     w.waitingFor = "the first step";
     w.over = false;
+    w.ready = false;
     w.guard = std::thread(guardThread, limit());
+    std::unique_lock lock(w.mutex);
+    w.changed.wait(lock, [&w] { return w.ready; });
 }
 
 Watchdog::~Watchdog() {
@@ -96,7 +104,7 @@ Watchdog::~Watchdog() {
         const std::scoped_lock lock(w.mutex);
         w.over = true;
     }
-    w.changed.notify_one();
+    w.changed.notify_all();
     w.guard.join();
 }
 

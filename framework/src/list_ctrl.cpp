@@ -147,6 +147,13 @@ BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask) {
     return SetItemState(nItem, &item);
 }
 
+BOOL CListCtrl::SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const {
+    LVITEM item = {};
+    item.state = dwState;
+    item.stateMask = dwMask;
+    return SUCCEEDED(Send<HRESULT>(m_hWnd, LVM_SETITEMINDEXSTATE, pItemIndex, &item));
+}
+
 // The check box is the state image: 1 is the empty box, 2 the checked one.
 
 BOOL CListCtrl::GetCheck(int nItem) const {
@@ -216,6 +223,13 @@ BOOL CListCtrl::Scroll(CSize size) {
 BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const {
     lpRect->left = static_cast<LONG>(nCode); // where the control looks for it
     return Send<BOOL>(m_hWnd, LVM_GETITEMRECT, nItem, lpRect);
+}
+
+BOOL CListCtrl::GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType,
+                                 LPRECT pRect) const {
+    pRect->top = iColumn; // where the control looks for them
+    pRect->left = rectType;
+    return Send<BOOL>(m_hWnd, LVM_GETITEMINDEXRECT, pItemIndex, pRect);
 }
 
 BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) {

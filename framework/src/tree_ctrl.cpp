@@ -115,6 +115,21 @@ BOOL CTreeCtrl::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
                    0);
 }
 
+int CTreeCtrl::GetItemExpandedImageIndex(HTREEITEM hItem) const {
+    TVITEMEX item = {};
+    item.mask = TVIF_EXPANDEDIMAGE;
+    item.hItem = hItem;
+    return Send<BOOL>(m_hWnd, TVM_GETITEM, 0, &item) ? item.iExpandedImage : -1;
+}
+
+BOOL CTreeCtrl::SetItemExpandedImageIndex(HTREEITEM hItem, int iExpandedImage) {
+    TVITEMEX item = {};
+    item.mask = TVIF_EXPANDEDIMAGE;
+    item.hItem = hItem;
+    item.iExpandedImage = iExpandedImage;
+    return Send<BOOL>(m_hWnd, TVM_SETITEM, 0, &item);
+}
+
 BOOL CTreeCtrl::ItemHasChildren(HTREEITEM hItem) const {
     TVITEM item = {};
     item.mask = TVIF_CHILDREN;
@@ -125,6 +140,21 @@ BOOL CTreeCtrl::ItemHasChildren(HTREEITEM hItem) const {
 
 BOOL CTreeCtrl::SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask) {
     return SetItem(hItem, TVIF_STATE, nullptr, 0, 0, nState, nStateMask, 0);
+}
+
+UINT CTreeCtrl::GetItemStateEx(HTREEITEM hItem) const {
+    TVITEMEX item = {};
+    item.mask = TVIF_STATEEX;
+    item.hItem = hItem;
+    return Send<BOOL>(m_hWnd, TVM_GETITEM, 0, &item) ? item.uStateEx : 0;
+}
+
+BOOL CTreeCtrl::SetItemStateEx(HTREEITEM hItem, UINT uStateEx) {
+    TVITEMEX item = {};
+    item.mask = TVIF_STATEEX;
+    item.hItem = hItem;
+    item.uStateEx = uStateEx;
+    return Send<BOOL>(m_hWnd, TVM_SETITEM, 0, &item);
 }
 
 // The check box is the state image: 1 is the empty box, 2 the checked one.
@@ -143,6 +173,14 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) cons
     // The control looks for the item where it writes the rectangle.
     std::memcpy(lpRect, &hItem, sizeof(hItem));
     return Send<BOOL>(m_hWnd, TVM_GETITEMRECT, bTextOnly, lpRect);
+}
+
+BOOL CTreeCtrl::GetItemPartRect(HTREEITEM hItem, int nPart, LPRECT lpRect) const {
+    TVGETITEMPARTRECTINFO part = {};
+    part.hti = hItem;
+    part.prc = lpRect;
+    part.partID = static_cast<TVITEMPART>(nPart);
+    return Send<BOOL>(m_hWnd, TVM_GETITEMPARTRECT, 0, &part);
 }
 
 HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const {

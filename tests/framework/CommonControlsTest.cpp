@@ -279,6 +279,11 @@ TEST_F(TreeCtrl, ExpandsWhatHidesAnItem) {
     EXPECT_TRUE(control.GetItemState(profiles, TVIS_EXPANDED) & TVIS_EXPANDED);
 }
 
+TEST_F(TreeCtrl, HasAnImageForExpandedItems) {
+    EXPECT_TRUE(control.SetItemExpandedImageIndex(profiles, 3));
+    EXPECT_EQ(control.GetItemExpandedImageIndex(profiles), 3);
+}
+
 TEST_F(TreeCtrl, DeletesAnItemWithWhatIsBelow) {
     EXPECT_TRUE(control.DeleteItem(profiles));
     EXPECT_EQ(control.GetCount(), 0u);

@@ -97,6 +97,7 @@ public:
         return afx_internal::Send<BOOL>(m_hWnd, LVM_SETITEMSTATE, nItem, pItem);
     }
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);
+    BOOL SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const;
     /// The check box of LVS_EX_CHECKBOXES.
     BOOL GetCheck(int nItem) const;
     BOOL SetCheck(int nItem, BOOL fCheck = TRUE);
@@ -117,6 +118,10 @@ public:
     /// (LVNI_...).
     int GetNextItem(int nItem, int nFlags) const {
         return afx_internal::Send<int>(m_hWnd, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+    }
+    BOOL GetNextItemIndex(PLVITEMINDEX pItemIndex, int nFlags) const {
+        return afx_internal::Send<BOOL>(m_hWnd, LVM_GETNEXTITEMINDEX, pItemIndex,
+                                        MAKELPARAM(nFlags, 0));
     }
     /// The search begins after nStart; -1: from the first one.
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const {
@@ -162,6 +167,7 @@ public:
     int GetCountPerPage() const { return afx_internal::Send<int>(m_hWnd, LVM_GETCOUNTPERPAGE); }
     /// nCode: LVIR_...
     BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
+    BOOL GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType, LPRECT pRect) const;
     BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref);
     BOOL GetItemPosition(int nItem, LPPOINT lpPoint) const {
         return afx_internal::Send<BOOL>(m_hWnd, LVM_GETITEMPOSITION, nItem, lpPoint);

@@ -47,11 +47,17 @@ public:
     BOOL SetItemData(HTREEITEM hItem, DWORD_PTR dwData);
     BOOL GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) const;
     BOOL SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage);
+    /// The image of the item while it is expanded; -1 when there is none of its own.
+    int GetItemExpandedImageIndex(HTREEITEM hItem) const;
+    BOOL SetItemExpandedImageIndex(HTREEITEM hItem, int iExpandedImage);
     BOOL ItemHasChildren(HTREEITEM hItem) const;
     UINT GetItemState(HTREEITEM hItem, UINT nStateMask) const {
         return afx_internal::Send<UINT>(m_hWnd, TVM_GETITEMSTATE, hItem, nStateMask);
     }
     BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask);
+    /// TVIS_EX_...
+    UINT GetItemStateEx(HTREEITEM hItem) const;
+    BOOL SetItemStateEx(HTREEITEM hItem, UINT uStateEx);
     /// The check box of TVS_CHECKBOXES.
     BOOL GetCheck(HTREEITEM hItem) const;
     BOOL SetCheck(HTREEITEM hItem, BOOL fCheck = TRUE);
@@ -98,6 +104,8 @@ public:
     }
     UINT GetVisibleCount() const { return afx_internal::Send<UINT>(m_hWnd, TVM_GETVISIBLECOUNT); }
     BOOL GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const;
+    /// nPart: TVGIPR_BUTTON.
+    BOOL GetItemPartRect(HTREEITEM hItem, int nPart, LPRECT lpRect) const;
     HTREEITEM HitTest(TVHITTESTINFO* pHitTestInfo) const {
         return afx_internal::Send<HTREEITEM>(m_hWnd, TVM_HITTEST, 0, pHitTestInfo);
     }

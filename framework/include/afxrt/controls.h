@@ -496,6 +496,9 @@ public:
     }
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
+    BOOL GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const {
+        return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, pScrollInfo);
+    }
     /// The greatest position that the user can scroll to.
     int GetScrollLimit();
     void ShowScrollBar(BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, bShow); }

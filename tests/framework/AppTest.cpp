@@ -4,8 +4,8 @@
 #include "TestResource.h"
 #include "afxres.h"
 #include "kit/kit.h"
+#include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
-#include "modules/Program.h"
 
 #include <climits>
 #include <cstdio>

@@ -1,6 +1,7 @@
 // A module's texts in the user's language: a file of resources beside the module, named after it
 // and the language. These tests run for an English user and, once more, for a German one.
 #include "TestApp.h"
+#include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
 #include "modules/Program.h"
 

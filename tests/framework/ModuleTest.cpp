@@ -3,6 +3,7 @@
 // made under.
 #include "TestApp.h"
 #include "modules/Diary.h"
+#include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
 #include "modules/ProbeWindow.h"
 #include "modules/Program.h"

@@ -1,5 +1,5 @@
 // Objects know their class at run time: its name, its base classes, and how one of it is made.
-#include "modules/Program.h"
+#include "modules/ModuleFiles.h"
 
 #include <afxwin.h>
 

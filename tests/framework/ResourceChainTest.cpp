@@ -3,8 +3,8 @@
 // framework.
 #include "TestApp.h"
 #include "afxres.h"
+#include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
-#include "modules/Program.h"
 
 #include <gtest/gtest.h>
 

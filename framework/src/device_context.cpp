@@ -27,8 +27,7 @@ struct HandleTraits<CDC> {
 namespace {
 
 afx_internal::HandleMap<CDC, HDC>& DeviceContexts() {
-    thread_local afx_internal::HandleMap<CDC, HDC> map;
-    return map;
+    return afx_internal::MapOfThread<CDC, HDC>();
 }
 
 // The object selected into a context, by its handle's type.

@@ -49,8 +49,7 @@ struct HandleTraits<CGdiObject> {
 namespace {
 
 afx_internal::HandleMap<CGdiObject, HGDIOBJ>& GdiObjects() {
-    thread_local afx_internal::HandleMap<CGdiObject, HGDIOBJ> map;
-    return map;
+    return afx_internal::MapOfThread<CGdiObject, HGDIOBJ>();
 }
 
 void ThrowUnless(BOOL created) {

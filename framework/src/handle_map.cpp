@@ -1,39 +1,63 @@
 #include <afxrt/handle_map.h>
 
+#include <atomic>
+#include <windows.h>
+
 namespace afx_internal {
 namespace {
 
-// The maps are thread-local themselves and register on construction, so this list is made
-// before the first of them and outlives them all.
-std::vector<TemporaryObjects*>& MapsOfThread() {
-    thread_local std::vector<TemporaryObjects*> maps;
-    return maps;
-}
+using Maps = std::vector<std::unique_ptr<TemporaryObjects>>;
+
+// Where each thread keeps its maps, which end with it. Not thread_local: when a thread ends, the
+// compiler's runtime frees the memory of such objects before it calls their destructors.
+class Slot {
+public:
+    Slot() : m_slot(::FlsAlloc([](void* maps) { delete static_cast<Maps*>(maps); })) {}
+    ~Slot() { ::FlsFree(m_slot); }
+    Slot(const Slot&) = delete;
+    Slot& operator=(const Slot&) = delete;
+
+    Maps& Get() const {
+        auto* maps = static_cast<Maps*>(::FlsGetValue(m_slot));
+        if (!maps) {
+            maps = new Maps;
+            ::FlsSetValue(m_slot, maps);
+        }
+        return *maps;
+    }
+
+private:
+    DWORD m_slot;
+};
 
 } // namespace
 
-TemporaryObjects::TemporaryObjects() {
-    MapsOfThread().push_back(this);
+std::vector<std::unique_ptr<TemporaryObjects>>& MapsOfThread() {
+    static const Slot slot;
+    return slot.Get();
 }
 
-TemporaryObjects::~TemporaryObjects() {
-    std::erase(MapsOfThread(), this);
+std::size_t ReserveMap() {
+    static std::atomic<std::size_t> next;
+    return next++;
 }
 
 void DeleteTemporaryObjects() {
-    for (TemporaryObjects* map : MapsOfThread())
-        map->DeleteTemporaries(0);
+    for (const auto& map : MapsOfThread())
+        if (map)
+            map->DeleteTemporaries(0);
 }
 
 TemporaryScope::TemporaryScope() {
-    for (const TemporaryObjects* map : MapsOfThread())
-        m_kept.push_back(map->CountTemporaries());
+    for (const auto& map : MapsOfThread())
+        m_kept.push_back(map ? map->CountTemporaries() : 0);
 }
 
 TemporaryScope::~TemporaryScope() {
-    const std::vector<TemporaryObjects*>& maps = MapsOfThread();
+    const auto& maps = MapsOfThread();
     for (std::size_t i = 0; i < maps.size(); ++i)
-        maps[i]->DeleteTemporaries(i < m_kept.size() ? m_kept[i] : 0);
+        if (maps[i])
+            maps[i]->DeleteTemporaries(i < m_kept.size() ? m_kept[i] : 0);
 }
 
 } // namespace afx_internal

@@ -16,8 +16,7 @@ struct HandleTraits<CImageList> : HandleMember<CImageList, &CImageList::m_hImage
 namespace {
 
 afx_internal::HandleMap<CImageList, HIMAGELIST>& ImageLists() {
-    thread_local afx_internal::HandleMap<CImageList, HIMAGELIST> map;
-    return map;
+    return afx_internal::MapOfThread<CImageList, HIMAGELIST>();
 }
 
 HBITMAP HandleOf(const CBitmap* bitmap) {

@@ -15,8 +15,7 @@ struct HandleTraits<CMenu> : HandleMember<CMenu, &CMenu::m_hMenu> {};
 namespace {
 
 afx_internal::HandleMap<CMenu, HMENU>& Menus() {
-    thread_local afx_internal::HandleMap<CMenu, HMENU> map;
-    return map;
+    return afx_internal::MapOfThread<CMenu, HMENU>();
 }
 
 // The system takes the handle of a bitmap in the place of the item's text.

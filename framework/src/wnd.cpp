@@ -24,8 +24,7 @@ struct HandleTraits<CWnd> : HandleMember<CWnd, &CWnd::m_hWnd> {};
 
 namespace {
 HandleMap<CWnd, HWND>& Windows() {
-    thread_local HandleMap<CWnd, HWND> map;
-    return map;
+    return MapOfThread<CWnd, HWND>();
 }
 } // namespace
 } // namespace afx_internal

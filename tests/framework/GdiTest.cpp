@@ -5,6 +5,7 @@
 #include <kit/kit.h>
 
 #include <array>
+#include <thread>
 
 namespace {
 
@@ -94,6 +95,26 @@ TEST(GdiObjects, KnowTheirClassAtRunTime) {
     CFont font;
     EXPECT_TRUE(font.IsKindOf(RUNTIME_CLASS(CGdiObject)));
     EXPECT_STREQ(font.GetRuntimeClass()->m_lpszClassName, "CFont");
+}
+
+TEST(GdiObjects, AreKnownInTheirOwnThreadOnly) {
+    CBrush brush(red);
+    const HBRUSH handle = brush;
+    const CBrush* elsewhere = nullptr;
+    COLORREF seen = 0;
+    std::thread([&] {
+        CBrush* temporary = CBrush::FromHandle(handle);
+        elsewhere = temporary;
+        LOGBRUSH description = {};
+        temporary->GetLogBrush(&description);
+        seen = description.lbColor;
+        CBrush own(green); // what a thread leaves in its maps goes with it
+        EXPECT_EQ(CBrush::FromHandle(own), &own);
+    }).join();
+    EXPECT_NE(elsewhere, &brush);
+    EXPECT_EQ(seen, red);
+    EXPECT_EQ(CBrush::FromHandle(handle), &brush);
+    EXPECT_EQ(brush.GetObjectType(), static_cast<UINT>(OBJ_BRUSH)) << "the other thread is gone";
 }
 
 TEST(Pens, AreMadeFromColoursAndDescriptions) {

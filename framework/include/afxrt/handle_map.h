@@ -19,9 +19,11 @@ inline bool IsNull(const void* pointer) {
 }
 
 /// How a map handles its class of objects. Specialised beside each mapped class with
-///   static void SetHandle(Object&, Handle)               sets the handle members, without
-///   ownership static std::unique_ptr<Object> MakeTemporary(Handle)  a new object, its handle not
-///   yet set
+///
+///   static void SetHandle(Object&, Handle);
+///       sets the handle members, without ownership
+///   static std::unique_ptr<Object> MakeTemporary(Handle);
+///       a new object, its handle not yet set
 template <class Object>
 struct HandleTraits;
 
@@ -41,16 +43,20 @@ struct HandleMember {
 /// What all maps of a thread have in common: their temporary objects go together.
 class TemporaryObjects {
 public:
+    TemporaryObjects() = default;
+    virtual ~TemporaryObjects() = default;
     TemporaryObjects(const TemporaryObjects&) = delete;
     TemporaryObjects& operator=(const TemporaryObjects&) = delete;
     virtual std::size_t CountTemporaries() const = 0;
     /// Deletes all but the first `kept` temporary objects; their handles live on.
     virtual void DeleteTemporaries(std::size_t kept) = 0;
-
-protected:
-    TemporaryObjects();
-    virtual ~TemporaryObjects();
 };
+
+/// The maps of the calling thread, each at its own index; null where the thread has not used it.
+std::vector<std::unique_ptr<TemporaryObjects>>& MapsOfThread();
+
+/// An index for the maps of one more class.
+std::size_t ReserveMap();
 
 /// Deletes the temporary objects of all maps of the calling thread; their handles live on.
 void DeleteTemporaryObjects();
@@ -65,7 +71,7 @@ public:
     TemporaryScope& operator=(const TemporaryScope&) = delete;
 
 private:
-    std::vector<std::size_t> m_kept; // of each map of the thread, in the order of their making
+    std::vector<std::size_t> m_kept; // of each map of the thread
 };
 
 template <class Object, class Handle>
@@ -127,5 +133,17 @@ private:
     std::unordered_map<Handle, Object*> m_temporary;
     std::vector<std::pair<Handle, std::unique_ptr<Object>>> m_owned; // in the order of making
 };
+
+/// The calling thread's map of a class of objects.
+template <class Object, class Handle>
+HandleMap<Object, Handle>& MapOfThread() {
+    static const std::size_t index = ReserveMap();
+    auto& maps = MapsOfThread();
+    if (maps.size() <= index)
+        maps.resize(index + 1);
+    if (!maps[index])
+        maps[index] = std::make_unique<HandleMap<Object, Handle>>();
+    return static_cast<HandleMap<Object, Handle>&>(*maps[index]);
+}
 
 } // namespace afx_internal

@@ -2,12 +2,15 @@
 #include "afxrt/ddx.h"
 
 #include "afxrt/controls.h"
+#include "window_text.h"
 
 CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
-    : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd) {}
+    : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd) {
+    m_pDlgWnd->m_exchangedControls.Rewind();
+}
 
 HWND CDataExchange::Prepare(int nIDC, bool edit) {
-    const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
+    const HWND control = m_pDlgWnd->m_exchangedControls.Find(m_pDlgWnd->m_hWnd, nIDC);
     if (!control)
         AfxThrowNotSupportedException();
     m_hWndLastControl = control;
@@ -21,6 +24,10 @@ HWND CDataExchange::PrepareCtrl(int nIDC) {
 
 HWND CDataExchange::PrepareEditCtrl(int nIDC) {
     return Prepare(nIDC, true);
+}
+
+HWND CDataExchange::NextCtrl(HWND control) {
+    return m_pDlgWnd->m_exchangedControls.FindNext(m_pDlgWnd->m_hWnd, control);
 }
 
 void CDataExchange::Fail() {
@@ -41,13 +48,28 @@ void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
         AfxThrowNotSupportedException();
 }
 
+namespace {
+
+int CheckOf(HWND button) {
+    return static_cast<int>(::SendMessage(button, BM_GETCHECK, 0, 0));
+}
+
+// Setting what a button shows already is not free of effects: it draws, and changes the styles
+// of a radio button.
+void SetCheck(HWND button, int check) {
+    if (CheckOf(button) != check)
+        ::SendMessage(button, BM_SETCHECK, static_cast<WPARAM>(check), 0);
+}
+
+} // namespace
+
 void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value) {
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
+        value = CheckOf(control);
     } else {
         const int shown = value < BST_UNCHECKED || value > BST_INDETERMINATE ? 0 : value;
-        ::SendMessage(control, BM_SETCHECK, static_cast<WPARAM>(shown), 0);
+        SetCheck(control, shown);
     }
 }
 
@@ -70,31 +92,32 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
     do {
         if (IsRadioButton(control)) {
             if (!pDX->m_bSaveAndValidate)
-                ::SendMessage(control, BM_SETCHECK, index == wanted ? BST_CHECKED : BST_UNCHECKED,
-                              0);
-            else if (value < 0 && ::SendMessage(control, BM_GETCHECK, 0, 0) == BST_CHECKED)
+                SetCheck(control, index == wanted ? BST_CHECKED : BST_UNCHECKED);
+            else if (value < 0 && CheckOf(control) == BST_CHECKED)
                 value = index;
             ++index;
         }
-        control = ::GetWindow(control, GW_HWNDNEXT);
+        control = pDX->NextCtrl(control);
     } while (control && !(::GetWindowLongPtr(control, GWL_STYLE) & WS_GROUP));
 }
 
 namespace {
+
+// Setting the index that they have has effects in all others: a list box scrolls to it, and an
+// edit gets the item's text back.
+bool IsDropDownList(HWND control, UINT set) {
+    return set == CB_SETCURSEL &&
+           (::GetWindowLongPtr(control, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+}
 
 // An index kept by a list or combo box, -1 for none.
 void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT get, UINT set) {
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
         index = static_cast<int>(::SendMessage(control, get, 0, 0));
-    else
+    else if (!IsDropDownList(control, set) ||
+             static_cast<int>(::SendMessage(control, get, 0, 0)) != index)
         ::SendMessage(control, set, static_cast<WPARAM>(index), 0);
-}
-
-void ReadWindowText(HWND control, CString& text) {
-    const int length = ::GetWindowTextLength(control);
-    ::GetWindowText(control, text.GetBuffer(length), length + 1);
-    text.ReleaseBuffer();
 }
 
 LPARAM TextArgument(const CString& text) {
@@ -122,7 +145,7 @@ void ExchangeListBoxString(CDataExchange* pDX, int nIDC, CString& value, bool ex
 void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool exact) {
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        ReadWindowText(control, value);
+        afx_internal::ReadText(control, value);
         return;
     }
     const LRESULT found = ::SendMessage(control, exact ? CB_FINDSTRINGEXACT : CB_FINDSTRING,

@@ -1,6 +1,7 @@
 // Data exchange of texts and numbers, and the validations.
 #include "afxres.h"
 #include "afxrt/ddx.h"
+#include "window_text.h"
 
 #include <charconv>
 #include <cmath>
@@ -11,14 +12,6 @@
 namespace {
 
 using afx_internal::SetTextIfDifferent;
-
-std::wstring ReadText(HWND control) {
-    const int length = ::GetWindowTextLength(control);
-    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-    ::GetWindowText(control, text.data(), length + 1);
-    text.resize(static_cast<std::size_t>(length));
-    return text;
-}
 
 [[noreturn]] void Refuse(CDataExchange* pDX, UINT prompt) {
     AfxMessageBox(prompt);
@@ -81,7 +74,7 @@ void ExchangeNumber(CDataExchange* pDX, int nIDC, Number& value, UINT prompt) {
         return;
     }
     Number read{};
-    if (!Parse(ReadText(control), read))
+    if (!Parse(afx_internal::WindowText(control).View(), read))
         Refuse(pDX, prompt);
     value = read;
 }
@@ -94,9 +87,7 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value) {
         SetTextIfDifferent(control, value);
         return;
     }
-    const int length = ::GetWindowTextLength(control);
-    ::GetWindowText(control, value.GetBuffer(length), length + 1);
-    value.ReleaseBuffer();
+    afx_internal::ReadText(control, value);
 }
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen) {

@@ -8,6 +8,7 @@
 #include "afxrt/handle_map.h"
 #include "afxrt/menu.h"
 #include "thread_state.h"
+#include "window_text.h"
 
 #include <algorithm>
 #include <string>
@@ -251,9 +252,7 @@ int CWnd::SetDlgCtrlID(int nID) {
 }
 
 void CWnd::GetWindowText(CString& rString) const {
-    const int length = ::GetWindowTextLength(m_hWnd);
-    ::GetWindowText(m_hWnd, rString.GetBuffer(length), length + 1);
-    rString.ReleaseBuffer();
+    afx_internal::ReadText(m_hWnd, rString);
 }
 
 int CWnd::GetDlgItemText(int nID, CString& rString) const {
@@ -268,15 +267,8 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const {
 
 namespace afx_internal {
 void SetTextIfDifferent(HWND window, LPCTSTR text) {
-    const int length = static_cast<int>(std::wcslen(text));
-    if (::GetWindowTextLength(window) == length) {
-        std::wstring current(static_cast<std::size_t>(length) + 1, L'\0');
-        ::GetWindowText(window, current.data(), length + 1);
-        current.resize(static_cast<std::size_t>(length));
-        if (current == text)
-            return;
-    }
-    ::SetWindowText(window, text);
+    if (WindowText(window).View() != text)
+        ::SetWindowText(window, text);
 }
 } // namespace afx_internal
 

@@ -35,13 +35,13 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     bool idle = true; // whether something has happened since the last idle time
     while (ContinueModal()) {
         if (idle && QueueIsEmpty()) {
-            idle = false;
             if (!shown) {
                 shown = true;
                 ShowWindow(SW_SHOWNORMAL);
                 UpdateWindow();
-                continue;
+                continue; // the owner hears of the idle time once the controls are painted too
             }
+            idle = false;
             const HWND owner = ::GetParent(m_hWnd);
             if (!(dwFlags & MLF_NOIDLEMSG) && owner)
                 ::SendMessage(owner, WM_ENTERIDLE, MSGF_DIALOGBOX,

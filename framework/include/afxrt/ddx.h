@@ -17,6 +17,8 @@ public:
     HWND PrepareCtrl(int nIDC);
     /// The same for an edit, whose text Fail selects.
     HWND PrepareEditCtrl(int nIDC);
+    /// The control that follows the current one in the order of the dialog, or null.
+    HWND NextCtrl(HWND control);
     /// Ends an exchange whose user has been told what is wrong: puts the focus on the current
     /// control, selects an edit's text, and throws CUserException.
     [[noreturn]] void Fail();

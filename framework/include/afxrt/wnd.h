@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app.h"
+#include "exchanged_controls.h"
 #include "geometry.h"
 
 #include <commctrl.h>
@@ -358,6 +359,7 @@ protected:
 
 private:
     friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+    friend class CDataExchange;
     friend struct afx_internal::Creation;
 
     bool TakesControlNotifications() const;
@@ -367,6 +369,7 @@ private:
 
     WNDPROC m_pfnSuper = nullptr;
     HWND m_hWndOwner = nullptr;
+    afx_internal::ExchangedControls m_exchangedControls;
 };
 
 /// The framework's window procedure: finds the window's object and lets it deal with the

@@ -25,7 +25,7 @@ public:
     BOOL InitInstance() override {
         CAplicacion::InitInstance();
         CDataTriangulacion data;
-        data.m_Codigos.Inserta(CElementoDigiTab(L"BRK", L"Break line"), true);
+        data.m_Codigos.Inserta(CElementoDigiTab(L"BRK", L"Breakline"), true);
         CAcceptedDlg dialog(data, nullptr);
         m_accepted = dialog.DoModal() == IDOK && data.m_Nombre == L"Accepted" &&
                      data.m_CodigosRuptura.Cantidad() == 1;

@@ -555,19 +555,24 @@ TEST(AppMessageBox, BelongsToTheOpenDialog) {
     EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
 }
 
-TEST(AppMessageBox, DisablesTheMainWindowBelowTheDialog) {
+TEST(AppMessageBox, DisablesTheMainWindowBelowAnOpenPalette) {
     CWnd main;
+    CWnd palette;
     ASSERT_TRUE(main.CreateEx(0, nullptr, L"Main", WS_POPUP | WS_VISIBLE, 0, 0, 100, 100, nullptr,
                               nullptr));
+    ASSERT_TRUE(palette.CreateEx(0, nullptr, L"Palette", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                 main.m_hWnd, nullptr));
+    palette.SetActiveWindow();
     theApp.m_pMainWnd = &main;
-    AskingDialog dialog;
     kit::Script script;
-    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
-    script.expectMessage(L"Framework tests", L"Sure?", MB_ICONEXCLAMATION)
-        .ownedByDialog()
-        .inspect([&](kit::MessageDialog&) { EXPECT_FALSE(main.IsWindowEnabled()); })
-        .answer(IDYES);
-    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    script.expectMessage(L"Framework tests", L"Done.", MB_ICONEXCLAMATION)
+        .inspect([&](kit::MessageDialog& box) {
+            EXPECT_EQ(box.owner(), palette.m_hWnd);
+            EXPECT_FALSE(palette.IsWindowEnabled());
+            EXPECT_FALSE(main.IsWindowEnabled());
+        });
+    EXPECT_EQ(script.run([] { return AfxMessageBox(L"Done."); }), IDOK);
+    EXPECT_TRUE(palette.IsWindowEnabled());
     EXPECT_TRUE(main.IsWindowEnabled());
     main.DestroyWindow();
     EXPECT_EQ(theApp.m_pMainWnd, nullptr);

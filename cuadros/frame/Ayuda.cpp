@@ -4,7 +4,8 @@ namespace Cuadros {
 
 void AbreAyuda(DWORD_PTR contexto) {
     constexpr UINT abrirContexto = 0x000F; // HH_HELP_CONTEXT
-    AfxGetApp()->HtmlHelp(contexto, abrirContexto);
+    if (CWinApp* const aplicacion = AfxGetApp())
+        aplicacion->HtmlHelp(contexto, abrirContexto);
 }
 
 } // namespace Cuadros

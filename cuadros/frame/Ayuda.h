@@ -10,7 +10,7 @@ constexpr DWORD_PTR ContextoAyuda(UINT plantilla) {
     return baseDeRecursos + plantilla;
 }
 
-/// Opens the host's help file at a context.
+/// Opens the host's help file at a context; does nothing where the host has no application object.
 void AbreAyuda(DWORD_PTR contexto);
 
 } // namespace Cuadros

@@ -14,8 +14,8 @@ int AlturaEntre(CWnd& dialogo, int arriba, int abajo);
 /// Moves controls up, in this order, keeping their left edge and their size.
 void Sube(CWnd& dialogo, int pixeles, std::initializer_list<int> controles);
 
-/// Takes height off the bottom of a dialog, keeping its place, its width and its order among the
-/// windows.
+/// Takes height off the bottom of a dialog, keeping its place and its width. A dialog that was
+/// topmost is no longer.
 void Encoge(CWnd& dialogo, int pixeles);
 
 } // namespace Cuadros

@@ -5,7 +5,7 @@ namespace Cuadros {
 void PonIcono(CWnd& dialogo, UINT icono) {
     const LPCTSTR nombre = MAKEINTRESOURCE(icono);
     const HICON imagen = LoadIcon(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
-    // Only the small one: the task switcher is to show the host's.
+    // Kept: only the small one, since the task switcher is to show the host's.
     dialogo.SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(imagen));
 }
 

@@ -1,15 +1,13 @@
 #include "cuadros/frame/LineaNombres.h"
 
-#include <algorithm>
-
 namespace Cuadros::Linea {
 
 namespace {
 
 constexpr wchar_t Comilla = L'"';
-// No tab: the host's prompt never separates with one, and a name may hold it.
-constexpr std::wstring_view Separadores = L" \r\n\uFEFF";
+// Kept: no tab. The host's prompt never separates with one, and a name may hold it.
 constexpr std::wstring_view FinDeNombre = L" \r\n\uFEFF\"";
+constexpr std::wstring_view Separadores = FinDeNombre.substr(0, FinDeNombre.find(Comilla));
 
 std::wstring_view QuitaDelante(std::wstring_view& linea, std::size_t cuantos) {
     const std::wstring_view delante = linea.substr(0, cuantos);
@@ -27,9 +25,9 @@ bool Siguiente(std::wstring_view& linea, std::wstring_view& nombre) {
         nombre = QuitaDelante(linea, linea.find_first_of(FinDeNombre));
         return true;
     }
-    linea.remove_prefix(1);
+    QuitaDelante(linea, 1);
     nombre = QuitaDelante(linea, linea.find(Comilla));
-    linea.remove_prefix(std::min<std::size_t>(1, linea.size()));
+    QuitaDelante(linea, 1);
     return true;
 }
 

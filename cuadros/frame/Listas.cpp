@@ -14,6 +14,7 @@ void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas) {
 }
 
 int InsertaFila(CListCtrl& lista, int indice, const CString& texto) {
+    // Kept: the list shows no more, whatever the record holds.
     constexpr int maximo = 259;
     constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
     constexpr UINT primeraImagenDeEstado = INDEXTOSTATEIMAGEMASK(1);

@@ -23,8 +23,8 @@ void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas);
 /// @return the index that the row has in the list.
 int InsertaFila(CListCtrl& lista, int indice, const CString& texto);
 
-/// While one of these lives its list is not drawn: a row inserted into a list that draws itself
-/// costs a thousand times as much. One at a time for each list.
+/// While one of these lives its list is not drawn: a list that draws itself takes far longer to
+/// fill. For a list that is shown, one at a time.
 class ListaSinDibujar {
 public:
     explicit ListaSinDibujar(CListCtrl& lista);

@@ -1,6 +1,7 @@
 // The user asks for help, and the host's help file opens at the page of the dialog.
 #include "cuadros/frame/Ayuda.h"
 
+#include "OtraAplicacion.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
@@ -13,4 +14,12 @@ TEST(Ayuda, ContextIsTheTemplateNumberAboveItsBase) {
 TEST(Ayuda, IsAskedOfTheHostsApplication) {
     Cuadros::AbreAyuda(150073);
     EXPECT_EQ(kit::app.takeHelpRequests(), (std::vector<kit::HelpRequest>{{150073, 15}}));
+}
+
+TEST(Ayuda, HostWithoutApplicationObjectGivesNone) {
+    {
+        const OtraAplicacion ninguna(nullptr);
+        Cuadros::AbreAyuda(150073);
+    }
+    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
 }

@@ -7,16 +7,7 @@
 
 namespace {
 
-RECT Desplazado(RECT marco, int x, int y) {
-    OffsetRect(&marco, x, y);
-    return marco;
-}
-
-bool operator==(const RECT& uno, const RECT& otro) {
-    return EqualRect(&uno, &otro);
-}
-
-RECT MarcoDe(CWnd& dialogo, int control) {
+CRect MarcoDe(CWnd& dialogo, int control) {
     CRect marco;
     dialogo.GetDlgItem(control)->GetWindowRect(&marco);
     return marco;
@@ -38,13 +29,13 @@ TEST(Compacta, HeightBetweenTwoControlsIsThatOfTheirTops) {
 
 TEST(Compacta, RaisedControlsKeepLeftEdgeAndSize) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
-        const RECT texto = MarcoDe(prueba, IDC_PRUEBA_TEXTO);
-        const RECT aceptar = MarcoDe(prueba, IDOK);
-        const RECT cancelar = MarcoDe(prueba, IDCANCEL);
+        const CRect texto = MarcoDe(prueba, IDC_PRUEBA_TEXTO);
+        const CRect aceptar = MarcoDe(prueba, IDOK);
+        const CRect cancelar = MarcoDe(prueba, IDCANCEL);
         Cuadros::Sube(prueba, 20, {IDC_PRUEBA_TEXTO, IDOK});
-        EXPECT_TRUE(MarcoDe(prueba, IDC_PRUEBA_TEXTO) == Desplazado(texto, 0, -20));
-        EXPECT_TRUE(MarcoDe(prueba, IDOK) == Desplazado(aceptar, 0, -20));
-        EXPECT_TRUE(MarcoDe(prueba, IDCANCEL) == cancelar);
+        EXPECT_EQ(MarcoDe(prueba, IDC_PRUEBA_TEXTO), texto - CPoint(0, 20));
+        EXPECT_EQ(MarcoDe(prueba, IDOK), aceptar - CPoint(0, 20));
+        EXPECT_EQ(MarcoDe(prueba, IDCANCEL), cancelar);
         prueba.EndDialog(IDCANCEL);
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
@@ -59,6 +50,17 @@ TEST(Compacta, ShrunkWindowKeepsItsPlaceAndWidth) {
         prueba.GetWindowRect(&despues);
         antes.bottom -= 25;
         EXPECT_EQ(despues, antes);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Compacta, ShrunkWindowIsNoLongerTopmost) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        prueba.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+        EXPECT_NE(prueba.GetExStyle() & WS_EX_TOPMOST, 0U);
+        Cuadros::Encoge(prueba, 25);
+        EXPECT_EQ(prueba.GetExStyle() & WS_EX_TOPMOST, 0U);
         prueba.EndDialog(IDCANCEL);
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);

@@ -3,7 +3,38 @@
 #include "cuadros/frame/Controles.h"
 
 #include "DialogoPrueba.h"
+#include "Escucha.h"
 #include "kit/kit.h"
+
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// For its life writes down the controls of the test dialog that get `mensaje`, in their order.
+class Orden {
+public:
+    Orden(CDialogoPrueba& prueba, UINT mensaje)
+        : m_Texto(Apunta(prueba, IDC_PRUEBA_TEXTO, mensaje)),
+          m_OtroTexto(Apunta(prueba, IDC_PRUEBA_OTRO_TEXTO, mensaje)) {}
+
+    std::vector<int> controles;
+
+private:
+    Escucha Apunta(CDialogoPrueba& prueba, int control, UINT buscado) {
+        return Escucha(prueba.GetDlgItem(control)->m_hWnd,
+                       [this, control, buscado](UINT mensaje, WPARAM, LPARAM) {
+                           if (mensaje == buscado)
+                               controles.push_back(control);
+                           return std::nullopt;
+                       });
+    }
+
+    Escucha m_Texto;
+    Escucha m_OtroTexto;
+};
+
+} // namespace
 
 TEST(Controles, AreEnabledAndDisabledTogether) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
@@ -46,4 +77,21 @@ TEST(Controles, AreHiddenAndShownTogether) {
         vista.press(IDCANCEL);
     });
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Controles, AreVisitedInTheOrderOfTheList) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        const std::vector<int> alReves = {IDC_PRUEBA_OTRO_TEXTO, IDC_PRUEBA_TEXTO};
+        const std::vector<int> alDerecho = {IDC_PRUEBA_TEXTO, IDC_PRUEBA_OTRO_TEXTO};
+        Orden habilitados(prueba, WM_ENABLE);
+        Cuadros::Habilita(prueba, FALSE, {IDC_PRUEBA_OTRO_TEXTO, IDC_PRUEBA_TEXTO});
+        EXPECT_EQ(std::exchange(habilitados.controles, {}), alReves);
+        Cuadros::Habilita(prueba, TRUE, {IDC_PRUEBA_TEXTO, IDC_PRUEBA_OTRO_TEXTO});
+        EXPECT_EQ(habilitados.controles, alDerecho);
+        Orden mostrados(prueba, WM_SHOWWINDOW);
+        Cuadros::Muestra(prueba, SW_HIDE, {IDC_PRUEBA_OTRO_TEXTO, IDC_PRUEBA_TEXTO});
+        EXPECT_EQ(mostrados.controles, alReves);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
 }

@@ -2,9 +2,12 @@
 #include "cuadros/frame/Listas.h"
 
 #include "DialogoPrueba.h"
+#include "Escucha.h"
 #include "kit/kit.h"
 
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -53,13 +56,15 @@ TEST(Listas, HaveTheirColumnsGridLinesAndFullRows) {
 TEST(Listas, RowsHaveTheFirstStateImageAndAtMost259Characters) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         AbreConFilas(prueba, 2);
-        Cuadros::InsertaFila(prueba.m_Lista, 2, CString(L'x', 300));
+        Cuadros::InsertaFila(prueba.m_Lista, 2, CString(L'x', 259));
+        Cuadros::InsertaFila(prueba.m_Lista, 3, CString(L'y', 260));
     });
     kit::Script script;
     script.onDialog([](kit::Dialog& vista) {
         const auto lista = vista.list(IDC_PRUEBA_LISTA);
         EXPECT_EQ(lista.text(0), L"row 0");
         EXPECT_EQ(lista.text(2), std::wstring(259, L'x'));
+        EXPECT_EQ(lista.text(3), std::wstring(259, L'y'));
         EXPECT_EQ(ListView_GetItemState(lista.handle(), 1, LVIS_STATEIMAGEMASK), 0x1000U);
         EXPECT_EQ(lista.selected(), Filas{});
         vista.press(IDCANCEL);
@@ -67,16 +72,43 @@ TEST(Listas, RowsHaveTheFirstStateImageAndAtMost259Characters) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
+TEST(Listas, RowIsInsertedWithItsStateAndImageAtOnce) {
+    using Insercion = std::tuple<UINT, int, int, UINT, UINT, int>;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        std::vector<Insercion> inserciones;
+        const Escucha escucha(prueba.m_Lista.m_hWnd, [&](UINT mensaje, WPARAM, LPARAM lParam) {
+            if (mensaje == LVM_INSERTITEM) {
+                const auto& fila = *reinterpret_cast<const LVITEM*>(lParam);
+                inserciones.emplace_back(fila.mask, fila.iItem, fila.iSubItem, fila.state,
+                                         fila.stateMask, fila.iImage);
+            }
+            return std::nullopt;
+        });
+        AbreConFilas(prueba, 2);
+        constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
+        EXPECT_EQ(inserciones, (std::vector<Insercion>{{partes, 0, 0, 0x1000, 0xF000, 0},
+                                                       {partes, 1, 0, 0x1000, 0xF000, 0}}));
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
 TEST(Listas, AreDrawnAgainOnceTheyAreFilled) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 3); });
     dialogo.AlAceptar([](CDialogoPrueba& prueba) {
-        prueba.m_Lista.UpdateWindow();
+        CListCtrl& lista = prueba.m_Lista;
+        const auto porDibujar = [&] { return lista.GetUpdateRect(nullptr); };
+        lista.UpdateWindow();
         {
-            const Cuadros::ListaSinDibujar quieta(prueba.m_Lista);
-            prueba.m_Lista.SetItemText(0, 1, L"changed");
+            const Cuadros::ListaSinDibujar quieta(lista);
+            lista.SetItemText(0, 1, L"changed");
+            EXPECT_FALSE(porDibujar());
         }
-        EXPECT_TRUE(GetUpdateRect(prueba.m_Lista.m_hWnd, nullptr, FALSE));
-        EXPECT_TRUE(prueba.m_Lista.IsWindowVisible());
+        EXPECT_TRUE(porDibujar());
+        lista.UpdateWindow();
+        EXPECT_FALSE(porDibujar());
+        lista.SetItemText(1, 1, L"later");
+        EXPECT_TRUE(porDibujar());
     });
     kit::Script script;
     script.onDialog([](kit::Dialog& vista) {
@@ -97,6 +129,29 @@ TEST(Listas, AllOrNoneOfTheRowsAreSelected) {
         EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{3}));
         Cuadros::SeleccionaFilas(prueba.m_Lista, 4, false);
         EXPECT_FALSE(Cuadros::HaySeleccion(prueba.m_Lista));
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Listas, SelectionIsSetRowByRow) {
+    using Cambio = std::tuple<WPARAM, UINT, UINT>;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 4);
+        std::vector<Cambio> cambios;
+        const Escucha escucha(prueba.m_Lista.m_hWnd, [&](UINT mensaje, WPARAM fila, LPARAM lParam) {
+            if (mensaje == LVM_SETITEMSTATE) {
+                const auto& en = *reinterpret_cast<const LVITEM*>(lParam);
+                cambios.emplace_back(fila, en.state, en.stateMask);
+            }
+            return std::nullopt;
+        });
+        Cuadros::SeleccionaFilas(prueba.m_Lista, 3, true);
+        EXPECT_EQ(std::exchange(cambios, {}),
+                  (std::vector<Cambio>{{0, 2, 2}, {1, 2, 2}, {2, 2, 2}}));
+        Cuadros::SeleccionaFilas(prueba.m_Lista, 3, false);
+        EXPECT_EQ(cambios, (std::vector<Cambio>{
+                               {0, 0xFFFFFFFD, 2}, {1, 0xFFFFFFFD, 2}, {2, 0xFFFFFFFD, 2}}));
         prueba.EndDialog(IDCANCEL);
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);

@@ -17,6 +17,8 @@ TEST(MemoriaRaster, SignOfThePixelCancelsOut) {
 TEST(MemoriaRaster, PixelWithinTheToleranceOfZeroHasNone) {
     EXPECT_EQ(Cuadros::MemoriaRaster(1024, 1024, 0), L"-");
     EXPECT_EQ(Cuadros::MemoriaRaster(1024, 1024, 1e-7), L"-");
-    EXPECT_EQ(Cuadros::MemoriaRaster(1024, 1024, -5e-8), L"-");
-    EXPECT_NE(Cuadros::MemoriaRaster(1024, 1024, 1.1e-7), L"-");
+    EXPECT_EQ(Cuadros::MemoriaRaster(1024, 1024, -1e-7), L"-");
+    constexpr double minimo = 1.1e-7;
+    EXPECT_EQ(Cuadros::MemoriaRaster(1024 * minimo, 1024 * minimo, minimo), L"3.00");
+    EXPECT_EQ(Cuadros::MemoriaRaster(1024 * minimo, 1024 * minimo, -minimo), L"3.00");
 }

@@ -28,6 +28,7 @@ using Nombres = std::vector<std::wstring>;
 TEST(Nombres, AreSeparatedByBlanksLineEndsAndByteOrderMarks) {
     EXPECT_EQ(Separados(L"a.dat b.dat"), (Nombres{L"a.dat", L"b.dat"}));
     EXPECT_EQ(Separados(L"a\r\nb\nc\r\n"), (Nombres{L"a", L"b", L"c"}));
+    EXPECT_EQ(Separados(L"a\rb"), (Nombres{L"a", L"b"}));
     EXPECT_EQ(Separados(L"\uFEFFa\uFEFFb"), (Nombres{L"a", L"b"}));
     EXPECT_EQ(Separados(L"   a   b   "), (Nombres{L"a", L"b"}));
 }
@@ -46,6 +47,14 @@ TEST(Nombres, TabIsPartOfAName) {
 TEST(Nombres, QuotedNameKeepsItsSeparators) {
     EXPECT_EQ(Cuenta(L"\"two words\""), 1);
     EXPECT_EQ(Separados(L"\"C:\\my files\\a.dat\" b"), (Nombres{L"C:\\my files\\a.dat", L"b"}));
+    EXPECT_EQ(Separados(L"\"a\nb\uFEFFc\""), (Nombres{L"a\nb\uFEFFc"}));
+}
+
+TEST(Nombres, NullCharacterIsPartOfAName) {
+    const auto nombres = Cuadros::ListaNombres(CString(L"a\0b c", 5));
+    ASSERT_EQ(nombres.size(), 2U);
+    EXPECT_EQ(nombres[0], CString(L"a\0b", 3));
+    EXPECT_EQ(nombres[1], L"c");
 }
 
 TEST(Nombres, OpeningQuoteEndsTheNameBeforeIt) {

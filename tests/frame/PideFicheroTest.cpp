@@ -1,75 +1,67 @@
 // The user presses Browse: the host asks for a file, and the chosen name comes back.
 #include "cuadros/frame/PideFichero.h"
 
+#include "OtraAplicacion.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
-
-#include <utility>
 
 namespace {
 
 constexpr UINT TituloAbrir = 61440;
 
-/// For its life the host's application object is another one, or none.
-class OtraAplicacion {
-public:
-    explicit OtraAplicacion(CWinApp* otra)
-        : m_Antes(std::exchange(AfxGetModuleState()->m_pCurrentWinApp, otra)) {}
-    ~OtraAplicacion() { AfxGetModuleState()->m_pCurrentWinApp = m_Antes; }
+using Pregunta = BOOL (*)(CString&, CDocTemplate**, int);
 
-private:
-    CWinApp* m_Antes;
+/// What the host is asked, beside the arguments that are handed through.
+struct Llamada {
+    DWORD opciones;
+    BOOL abrir;
 };
 
-} // namespace
-
-TEST(PideFichero, ToOpenHandsOverTheCallersOwnNameAndTemplate) {
+/// Asks with `pregunta` for a file of the kind `clase` and expects `llamada` of the host.
+void Pide(Pregunta pregunta, CDocTemplate** plantilla, int clase, Llamada llamada,
+          kit::Where donde = kit::Where::current()) {
+    const testing::ScopedTrace traza(donde.file_name(), static_cast<int>(donde.line()), "asked");
     CString nombre(L"before.dat");
-    CDocTemplate* plantilla = nullptr;
-    kit::app.answerFilePrompt(L"C:\\two words\\after.dat");
-    EXPECT_TRUE(Cuadros::PideFicheroAbrir(nombre, &plantilla, 32));
-    // As the host gave it: neither checked nor put in quotes.
-    EXPECT_EQ(nombre, L"C:\\two words\\after.dat");
+    // As the host gives it: neither checked nor put in quotes.
+    kit::app.answerFilePrompt(L"C:\\two words\\after.dat b.dat");
+    EXPECT_TRUE(pregunta(nombre, plantilla, clase));
+    EXPECT_EQ(nombre, L"C:\\two words\\after.dat b.dat");
 
     const auto llamadas = kit::app.takeFilePrompts();
     ASSERT_EQ(llamadas.size(), 1U);
     EXPECT_EQ(llamadas[0].name, &nombre);
     EXPECT_EQ(llamadas[0].nameBefore, L"before.dat");
     EXPECT_EQ(llamadas[0].title, TituloAbrir);
-    EXPECT_EQ(llamadas[0].flags, 0x1004U);
-    EXPECT_EQ(llamadas[0].open, 1);
-    EXPECT_EQ(llamadas[0].documentTemplate, &plantilla);
-    EXPECT_EQ(llamadas[0].kind, 32);
+    EXPECT_EQ(llamadas[0].flags, llamada.opciones);
+    EXPECT_EQ(llamadas[0].open, llamada.abrir);
+    EXPECT_EQ(llamadas[0].documentTemplate, plantilla);
+    EXPECT_EQ(llamadas[0].kind, clase);
     EXPECT_EQ(llamadas[0].reserved, nullptr);
 }
 
-TEST(PideFichero, ToSaveHasItsOwnFlagsAndTheTitleOfOpening) {
-    CString nombre;
-    kit::app.answerFilePrompt(L"new.dat");
-    EXPECT_TRUE(Cuadros::PideFicheroGuardar(nombre, nullptr));
-    EXPECT_EQ(nombre, L"new.dat");
+constexpr Llamada DeAbrir{0x1004, 1};
+constexpr Llamada DeGuardar{0x2002, 0};
+constexpr Llamada DeVarios{0x81204, 1};
 
-    const auto llamadas = kit::app.takeFilePrompts();
-    ASSERT_EQ(llamadas.size(), 1U);
-    EXPECT_EQ(llamadas[0].title, TituloAbrir);
-    EXPECT_EQ(llamadas[0].flags, 0x2002U);
-    EXPECT_EQ(llamadas[0].open, 0);
-    EXPECT_EQ(llamadas[0].documentTemplate, nullptr);
-    EXPECT_EQ(llamadas[0].kind, 0);
+} // namespace
+
+TEST(PideFichero, HandsOverTheCallersOwnNameAndTemplateAndKind) {
+    CDocTemplate* plantilla = nullptr;
+    Pide(Cuadros::PideFicheroAbrir, &plantilla, 32, DeAbrir);
+    Pide(Cuadros::PideFicheroGuardar, &plantilla, 16, DeGuardar);
+    Pide(Cuadros::PideVariosFicheros, &plantilla, 16, DeVarios);
 }
 
-TEST(PideFichero, OfSeveralTakesTheLineOfNames) {
-    CString nombres;
-    CDocTemplate* plantilla = nullptr;
-    kit::app.answerFilePrompt(L"a.dat \"two words.dat\"");
-    EXPECT_TRUE(Cuadros::PideVariosFicheros(nombres, &plantilla, 16));
-    EXPECT_EQ(nombres, L"a.dat \"two words.dat\"");
-
-    const auto llamadas = kit::app.takeFilePrompts();
-    ASSERT_EQ(llamadas.size(), 1U);
-    EXPECT_EQ(llamadas[0].flags, 0x81204U);
-    EXPECT_EQ(llamadas[0].open, 1);
-    EXPECT_EQ(llamadas[0].kind, 16);
+TEST(PideFichero, OfNoTemplateAndNoKindInParticular) {
+    Pide([](CString& nombre, CDocTemplate** plantilla,
+            int) { return Cuadros::PideFicheroAbrir(nombre, plantilla); },
+         nullptr, 0, DeAbrir);
+    Pide([](CString& nombre, CDocTemplate** plantilla,
+            int) { return Cuadros::PideFicheroGuardar(nombre, plantilla); },
+         nullptr, 0, DeGuardar);
+    Pide([](CString& nombre, CDocTemplate** plantilla,
+            int) { return Cuadros::PideVariosFicheros(nombre, plantilla); },
+         nullptr, 0, DeVarios);
 }
 
 TEST(PideFichero, CancelledLeavesTheName) {

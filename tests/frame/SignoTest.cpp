@@ -4,6 +4,7 @@
 
 #include "kit/kit.h"
 
+#include <cmath>
 #include <limits>
 
 TEST(Signo, TellsNegativeZeroAndPositive) {
@@ -15,8 +16,8 @@ TEST(Signo, TellsNegativeZeroAndPositive) {
 TEST(Signo, BothLimitsAreZero) {
     EXPECT_EQ(Cuadros::Signo(1e-7), 0);
     EXPECT_EQ(Cuadros::Signo(-1e-7), 0);
-    EXPECT_EQ(Cuadros::Signo(1.0000001e-7), 1);
-    EXPECT_EQ(Cuadros::Signo(-1.0000001e-7), -1);
+    EXPECT_EQ(Cuadros::Signo(std::nextafter(1e-7, 1)), 1);
+    EXPECT_EQ(Cuadros::Signo(std::nextafter(-1e-7, -1)), -1);
 }
 
 TEST(Signo, NotANumberIsZero) {

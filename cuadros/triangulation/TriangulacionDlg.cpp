@@ -174,6 +174,7 @@ void CTriangulacionDlg::OnOK() {
     // Kept: a number that does not convert is checked as it was before, and refused again below.
     UpdateData(TRUE);
     const CDigiTab codigos = Seleccionados(m_ListaCodigos, m_pData->m_Codigos);
+    // Kept: also of a list that is disabled, since breaklines are not used.
     const CDigiTab rupturas = Seleccionados(m_ListaRupturas, m_pData->m_CodigosRuptura);
 
     if (codigos.Cantidad() == 0)
@@ -186,7 +187,8 @@ void CTriangulacionDlg::OnOK() {
     if (m_pData->m_Nombre.IsEmpty())
         return Cuadros::Rechaza(*this, IDS_TEXTO_OBLIGATORIO);
 
-    // Kept: a code that was not selected is gone from the host's table.
+    // Kept: a code that was not selected is gone from the host's table, also when a number that
+    // does not convert keeps the dialog open.
     m_pData->m_Codigos = codigos;
     m_pData->m_CodigosRuptura = rupturas;
     m_pData->m_CodigosExtra1.clear();

@@ -17,16 +17,12 @@ namespace Cotana {
 class CUADROS_API CTriangulacionDlg : public CDialog {
 public:
     /// @param data  the record to edit; it must live as long as the dialog. Its `m_CodigosRuptura`
-    ///              is replaced when the dialog opens.
+    ///              is replaced when the dialog opens, if its `m_Codigos` has any code.
     /// @param padre the owner; null takes the host's main window.
     explicit CTriangulacionDlg(CDataTriangulacion& data, CWnd* padre = nullptr);
     ~CTriangulacionDlg() override;
 
-protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    DECLARE_MESSAGE_MAP()
-
-public:
     BOOL OnInitDialog() override;
 
     afx_msg void OnItemchangedListaCodigos(NMHDR* pNMHDR, LRESULT* pResult);
@@ -41,9 +37,12 @@ public:
 
     afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
-protected:
-    /// Shows the record's breakline table in its list anew, every row selected.
+    /// Shows the record's breakline table in its list anew, every row selected. The dialog must be
+    /// open.
     void ActualizaRupturas();
+
+protected:
+    DECLARE_MESSAGE_MAP()
 
     CDataTriangulacion* m_pData;
     CListaControlMFC m_ListaCodigos;

@@ -8,14 +8,46 @@
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
+#include "frame/Escucha.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
 #include <functional>
 #include <initializer_list>
+#include <memory>
+#include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+// Hosts, their help and the language file know these numbers.
+static_assert(IDD_TRIANGULACION == 19011);
+static_assert(IDI_TRIANGULACION == 19011);
+static_assert(IDC_TRIANGULACION_NO_UNIR_CURVAS == 19004);
+static_assert(IDC_TRIANGULACION_TODOS_CODIGOS == 19005);
+static_assert(IDC_TRIANGULACION_NINGUN_CODIGO == 19006);
+static_assert(IDC_TRIANGULACION_TODAS_RUPTURAS == 19007);
+static_assert(IDC_TRIANGULACION_NINGUNA_RUPTURA == 19008);
+static_assert(IDC_TRIANGULACION_CODIGOS == 19012);
+static_assert(IDC_TRIANGULACION_NOMBRE == 19013);
+static_assert(IDC_TRIANGULACION_LIMITE_INFERIOR == 19014);
+static_assert(IDC_TRIANGULACION_LIMITE_SUPERIOR == 19015);
+static_assert(IDC_TRIANGULACION_RUPTURAS == 19016);
+static_assert(IDC_TRIANGULACION_USAR_RUPTURAS == 19017);
+static_assert(IDC_TRIANGULACION_DISTANCIA_NO_UNIR == 19203);
+static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_1 == 20228);
+static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_2 == 20229);
+static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_3 == 20230);
+static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_4 == 20231);
+static_assert(IDC_TRIANGULACION_PARAMETRO_EXTRA == 38487);
+static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
+static_assert(IDS_TITULO_MENSAJES == 15105);
+static_assert(IDS_COLUMNA_CODIGO == 18013);
+static_assert(IDS_COLUMNA_NEMOTECNICO == 18014);
+static_assert(IDS_SIN_CODIGOS == 19002);
+static_assert(IDS_LIMITES_NO_CRECIENTES == 19003);
+static_assert(IDS_VALOR_NO_POSITIVO == 19076);
 
 namespace {
 
@@ -121,12 +153,11 @@ TEST_F(TriangulacionDlg, ListsHaveTwoColumnsWithGridLinesAndFullRows) {
             EXPECT_EQ(lista.heading(1), kit::Text(Texto(IDS_COLUMNA_NEMOTECNICO)));
             EXPECT_EQ(lista.width(0), 100);
             EXPECT_EQ(lista.width(1), 230);
-            for (int i = 0; i < 2; ++i) {
-                LVCOLUMNW columna{};
-                columna.mask = LVCF_FMT;
-                ListView_GetColumn(lista.handle(), i, &columna);
-                EXPECT_EQ(columna.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_LEFT);
-            }
+            // The first column of any list is left-aligned.
+            LVCOLUMNW segunda{};
+            segunda.mask = LVCF_FMT;
+            ListView_GetColumn(lista.handle(), 1, &segunda);
+            EXPECT_EQ(segunda.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_LEFT);
             EXPECT_EQ(ListView_GetExtendedListViewStyle(lista.handle()),
                       DWORD{LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT});
         }
@@ -134,16 +165,22 @@ TEST_F(TriangulacionDlg, ListsHaveTwoColumnsWithGridLinesAndFullRows) {
     });
 }
 
-TEST_F(TriangulacionDlg, RowsHaveTheFirstStateImageAndTheFirstImage) {
+TEST_F(TriangulacionDlg, RowsHaveTheFirstStateImage) {
     Abre([](kit::Dialog& dialogo) {
         for (const int control : {Codigos, Rupturas}) {
-            LVITEMW fila{};
-            fila.mask = LVIF_STATE | LVIF_IMAGE;
-            fila.iItem = 1;
-            fila.stateMask = LVIS_STATEIMAGEMASK;
-            ASSERT_TRUE(ListView_GetItem(dialogo.list(control).handle(), &fila));
-            EXPECT_EQ(fila.state, 0x1000U);
-            EXPECT_EQ(fila.iImage, 0);
+            const HWND lista = dialogo.list(control).handle();
+            for (int fila = 0; fila < 4; ++fila)
+                EXPECT_EQ(ListView_GetItemState(lista, fila, LVIS_STATEIMAGEMASK), 0x1000U);
+        }
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, ListsAreListControlsOfTheHost) {
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {Codigos, Rupturas}) {
+            CWnd* const lista = CWnd::FromHandlePermanent(dialogo.control(control));
+            EXPECT_NE(dynamic_cast<Cotana::CListaControlMFC*>(lista), nullptr);
         }
         dialogo.press(IDCANCEL);
     });
@@ -214,6 +251,7 @@ TEST_F(TriangulacionDlg, EmptyTablesDisableOk) {
         dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
         dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
         dialogo.press(IDC_TRIANGULACION_TODAS_RUPTURAS);
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
         EXPECT_FALSE(dialogo.enabled(IDOK));
         dialogo.command(IDOK);
         dialogo.press(IDCANCEL);
@@ -275,6 +313,17 @@ TEST_F(TriangulacionDlg, NoCodeDisablesOkAndAllCodesEnableIt) {
     });
 }
 
+TEST_F(TriangulacionDlg, EnterPressesNoDisabledOk) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        dialogo.focusOn(IDC_TRIANGULACION_NOMBRE);
+        kit::keyboard::press(VK_RETURN);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
 TEST_F(TriangulacionDlg, SelectionInAnyOrderKeepsTheOrderOfTheTable) {
     const auto resultado = Abre([this](kit::Dialog& dialogo) {
         dialogo.list(Codigos).choose({3, 0, 2});
@@ -300,6 +349,8 @@ TEST_F(TriangulacionDlg, DuplicateCodesAreRowsOfTheirOwn) {
     EXPECT_EQ(resultado, IDOK);
     ASSERT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"WL"}));
     EXPECT_EQ(data.m_Codigos[0].GetNemotecnico(), L"Right edge");
+    ASSERT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"WL"}));
+    EXPECT_EQ(data.m_CodigosRuptura[0].GetNemotecnico(), L"Right edge");
 }
 
 // Choosing breaklines.
@@ -356,12 +407,62 @@ TEST_F(TriangulacionDlg, FocusedCodeSelectsEveryBreaklineAgain) {
     });
 }
 
+/// For its life the list of breaklines says of these rows, asked whether they are selected, the
+/// complement of the bit: what only a list with a procedure of its own says.
+class ConComplemento : public Escucha {
+public:
+    ConComplemento(kit::Dialog& dialogo, std::set<WPARAM> filas)
+        : Escucha(dialogo.control(Rupturas),
+                  [filas = std::move(filas)](UINT mensaje, WPARAM fila,
+                                             LPARAM mascara) -> std::optional<LRESULT> {
+                      if (mensaje == LVM_GETITEMSTATE && mascara == LVIS_SELECTED &&
+                          filas.contains(fila))
+                          return LRESULT{0xFFFFFFFD};
+                      return std::nullopt;
+                  }) {}
+};
+
+TEST_F(TriangulacionDlg, BreaklineThatAnswersWithTheComplementStaysDeselected) {
+    Abre([](kit::Dialog& dialogo) {
+        {
+            const ConComplemento escucha(dialogo, {1, 2});
+            dialogo.list(Codigos).select(0, false);
+        }
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), (Textos{L"WL", L"TR", L"CT"}));
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), Filas{2});
+        {
+            // The code of the first row is gone, so that it is no entry that could be left out.
+            const ConComplemento escucha(dialogo, {0, 2});
+            dialogo.list(Codigos).select(1, false);
+        }
+        EXPECT_EQ(dialogo.list(Rupturas).column(0), (Textos{L"TR", L"CT"}));
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), Filas{0});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, OfADuplicateCodeTheFirstEntryStaysDeselected) {
+    data.m_Codigos =
+        Tabla({{L"RD", L"Road edge"}, {L"WL", L"Left"}, {L"WL", L"Right"}, {L"TR", L"Tree"}});
+    Abre([](kit::Dialog& dialogo) {
+        {
+            const ConComplemento escucha(dialogo, {2});
+            dialogo.list(Codigos).select(0, false);
+        }
+        EXPECT_EQ(dialogo.list(Rupturas).column(1), (Textos{L"Left", L"Right", L"Tree"}));
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{1, 2}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
 // The two check boxes and what they enable.
 
-constexpr int DeRupturas[] = {IDC_TRIANGULACION_RUPTURAS,        IDC_TRIANGULACION_TODAS_RUPTURAS,
-                              IDC_TRIANGULACION_NINGUNA_RUPTURA, IDC_TRIANGULACION_TIPO_RUPTURA_1,
-                              IDC_TRIANGULACION_TIPO_RUPTURA_2,  IDC_TRIANGULACION_TIPO_RUPTURA_3,
-                              IDC_TRIANGULACION_TIPO_RUPTURA_4};
+/// In the order in which they are enabled.
+const std::vector<int> DeRupturas = {
+    IDC_TRIANGULACION_RUPTURAS,        IDC_TRIANGULACION_TODAS_RUPTURAS,
+    IDC_TRIANGULACION_NINGUNA_RUPTURA, IDC_TRIANGULACION_TIPO_RUPTURA_1,
+    IDC_TRIANGULACION_TIPO_RUPTURA_3,  IDC_TRIANGULACION_TIPO_RUPTURA_2,
+    IDC_TRIANGULACION_TIPO_RUPTURA_4};
 
 TEST_F(TriangulacionDlg, UseOfBreaklinesEnablesTheirControls) {
     Abre([this](kit::Dialog& dialogo) {
@@ -375,6 +476,40 @@ TEST_F(TriangulacionDlg, UseOfBreaklinesEnablesTheirControls) {
             EXPECT_TRUE(dialogo.enabled(control)) << control;
         dialogo.press(IDCANCEL);
     });
+}
+
+TEST_F(TriangulacionDlg, UseOfBreaklinesEnablesItsControlsInTheirOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        std::vector<int> cambiados;
+        std::vector<std::unique_ptr<Escucha>> escuchas;
+        for (const int control : DeRupturas) {
+            const auto apunta = [&cambiados, control](UINT mensaje, WPARAM, LPARAM) {
+                if (mensaje == WM_ENABLE)
+                    cambiados.push_back(control);
+                return std::nullopt;
+            };
+            escuchas.push_back(std::make_unique<Escucha>(dialogo.control(control), apunta));
+        }
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_EQ(std::exchange(cambiados, {}), DeRupturas);
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_EQ(cambiados, DeRupturas);
+        escuchas.clear();
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, BreaklinesThatAreNoLongerUsedComeBackAsTheyWereChosen) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.list(Rupturas).choose({1});
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        EXPECT_FALSE(dialogo.enabled(Rupturas));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_FALSE(data.m_Rupturas);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), Textos{L"WL"});
 }
 
 TEST_F(TriangulacionDlg, UnusedBreaklinesStartDisabledAndStillComeBack) {
@@ -430,6 +565,16 @@ TEST_F(TriangulacionDlg, NoTreatmentStaysNone) {
         dialogo.press(IDOK);
     });
     EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoRuptura, -1);
+}
+
+TEST_F(TriangulacionDlg, FlagsAndTreatmentsOutOfRangeComeBackAsTheControlsShowThem) {
+    data.m_Rupturas = 3;
+    data.m_NoUnirCurvas = -1;
+    data.m_TipoRuptura = 4;
+    Abre([](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(data.m_Rupturas, 0);
+    EXPECT_EQ(data.m_NoUnirCurvas, 0);
     EXPECT_EQ(data.m_TipoRuptura, -1);
 }
 
@@ -515,6 +660,15 @@ TEST_F(TriangulacionDlg, DistanceMustBePositiveAlsoWhenItIsDisabled) {
     EXPECT_EQ(resultado, IDCANCEL);
 }
 
+TEST_F(TriangulacionDlg, NameOfOneBlankIsTaken) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_NOMBRE, L" ");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Nombre, L" ");
+}
+
 TEST_F(TriangulacionDlg, DistanceJustAboveTheToleranceIsTaken) {
     const auto resultado = Abre([](kit::Dialog& dialogo) {
         dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"1.1e-7");
@@ -596,7 +750,28 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
     EXPECT_EQ(data.m_ParametroExtra, -2.25);
     // The checks passed on the values of before, so that the tables are trimmed all the same.
     EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR"}));
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR"}));
     EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Ninguno);
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra2), Ninguno);
+}
+
+TEST_F(TriangulacionDlg, OkAfterABadNumberTakesTheOldRowsOfTheTrimmedTable) {
+    const auto resultado =
+        Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
+            dialogo.list(Codigos).choose({0, 2});
+            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"low");
+            dialogo.press(IDOK);
+            EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR"}));
+            EXPECT_EQ(dialogo.list(Codigos).column(0), CuatroCodigos);
+            EXPECT_EQ(dialogo.list(Codigos).selected(), (Filas{0, 2}));
+            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"11");
+            dialogo.press(IDOK);
+        });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_LimiteInferior, 11);
+    // The third row is beyond the two entries that the first OK left.
+    EXPECT_EQ(CodigosDe(data.m_Codigos), Textos{L"RD"});
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR"}));
 }
 
 TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
@@ -619,6 +794,16 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedAtAChangeOfTheCodesAndThenReplaced) {
         dialogo.list(Codigos).select(1, false);
         EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
         EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR", L"CT"}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(TriangulacionDlg, BadNumberIsRefusedAtTheFirstOfSeveralChangesOnly) {
+    Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_LIMITE_SUPERIOR, L"high");
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        EXPECT_EQ(dialogo.list(Codigos).selected(), Filas{});
+        EXPECT_EQ(dialogo.text(IDC_TRIANGULACION_LIMITE_SUPERIOR), L"250.5");
         dialogo.press(IDCANCEL);
     });
 }
@@ -712,39 +897,76 @@ TEST_F(TriangulacionDlg, HelpCommandOfAButtonIsNotItsOwn) {
 
 // A host's own class on top of the dialog.
 
+/// Notes the application object that each exchange finds. Exchanges run inside every handler.
 class CDerivado : public CTriangulacionDlg {
 public:
     using CTriangulacionDlg::CTriangulacionDlg;
 
-    void OnOK() override {
-        aplicacion = AfxGetApp();
-        CTriangulacionDlg::OnOK();
+    void DoDataExchange(CDataExchange* pDX) override {
+        aplicaciones.push_back(AfxGetApp());
+        CTriangulacionDlg::DoDataExchange(pDX);
     }
 
-    CWinApp* aplicacion = nullptr;
+    std::vector<CWinApp*> aplicaciones;
 };
 
 TEST_F(TriangulacionDlg, HostDerivesFromItAndRunsUnderItsOwnState) {
     CDerivado derivado(data);
+    const auto todasDelHost = [&](const char* tras) {
+        const auto aplicaciones = std::exchange(derivado.aplicaciones, {});
+        EXPECT_FALSE(aplicaciones.empty()) << tras;
+        for (const CWinApp* aplicacion : aplicaciones)
+            EXPECT_EQ(aplicacion, &kit::app) << tras;
+    };
     kit::Script script;
-    script.onDialog([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    script.onDialog([&](kit::Dialog& dialogo) {
+        todasDelHost("opening");
+        dialogo.list(Codigos).select(0, false);
+        todasDelHost("a change of the codes");
+        dialogo.press(IDC_TRIANGULACION_NINGUN_CODIGO);
+        todasDelHost("no code");
+        dialogo.press(IDC_TRIANGULACION_TODOS_CODIGOS);
+        todasDelHost("all codes");
+        dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
+        todasDelHost("use of breaklines");
+        dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
+        todasDelHost("lines not joined");
+        dialogo.press(IDOK);
+        todasDelHost("OK");
+    });
     EXPECT_EQ(script.run([&] { return derivado.DoModal(); }), IDOK);
-    EXPECT_EQ(derivado.aplicacion, AfxGetApp());
-    EXPECT_NE(derivado.aplicacion, nullptr);
 }
 
-/// Writes down each exchange: S for one that saves into the record, M for one that shows it.
+TEST_F(TriangulacionDlg, HostCallsItsOperations) {
+    CTriangulacionDlg conversacion(data);
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        conversacion.ActualizaRupturas();
+        EXPECT_EQ(dialogo.list(Rupturas).selected(), (Filas{0, 1, 2, 3}));
+        LRESULT resultado = 1;
+        conversacion.OnItemchangedListaCodigos(nullptr, &resultado);
+        EXPECT_EQ(resultado, 0);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return conversacion.DoModal(); }), IDCANCEL);
+}
+
+/// Writes down each exchange: S for one that saves into the record, M for one that shows it, and
+/// the number of codes shown, of breaklines shown, and of breaklines in the record.
 class CContador : public CTriangulacionDlg {
 public:
     using CTriangulacionDlg::CTriangulacionDlg;
 
-    std::string intercambios;
-
-protected:
     void DoDataExchange(CDataExchange* pDX) override {
-        intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
         CTriangulacionDlg::DoDataExchange(pDX);
+        intercambios += pDX->m_bSaveAndValidate ? " S" : " M";
+        intercambios += std::to_string(m_ListaCodigos.GetItemCount());
+        intercambios += std::to_string(m_ListaRupturas.GetItemCount());
+        intercambios += std::to_string(m_pData->m_CodigosRuptura.Cantidad());
     }
+
+    std::string intercambios;
 };
 
 TEST_F(TriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
@@ -754,26 +976,29 @@ TEST_F(TriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
     kit::Script script;
     script.onDialog([&](kit::Dialog& dialogo) {
         // The framework's own and the dialog's, three for each code that is selected, and two more.
-        EXPECT_EQ(desdeAntes(), "MM"
-                                "SSM"
-                                "SSM"
-                                "SS");
+        EXPECT_EQ(desdeAntes(), " M000 M200"
+                                " S200 S201 M211"
+                                " S211 S212 M222"
+                                " S222 S222");
         dialogo.list(Codigos).select(0, false);
-        EXPECT_EQ(desdeAntes(), "SSM");
+        EXPECT_EQ(desdeAntes(), " S222 S221 M211");
         dialogo.list(Rupturas).select(0, false);
+        dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
+        dialogo.press(IDC_TRIANGULACION_TODAS_RUPTURAS);
         dialogo.press(IDC_TRIANGULACION_NINGUNA_RUPTURA);
         dialogo.click(IDC_TRIANGULACION_TIPO_RUPTURA_1);
         EXPECT_EQ(desdeAntes(), "");
         dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
-        EXPECT_EQ(desdeAntes(), "S");
+        EXPECT_EQ(desdeAntes(), " S211");
         dialogo.click(IDC_TRIANGULACION_NO_UNIR_CURVAS);
-        EXPECT_EQ(desdeAntes(), "S");
+        EXPECT_EQ(desdeAntes(), " S211");
         dialogo.click(IDC_TRIANGULACION_USAR_RUPTURAS);
         desdeAntes();
         dialogo.press(IDOK);
     });
     EXPECT_EQ(script.run([&] { return contador.DoModal(); }), IDOK);
-    EXPECT_EQ(desdeAntes(), "SS");
+    // The second one comes when the tables are in the record: no breakline is left selected.
+    EXPECT_EQ(desdeAntes(), " S211 S210");
 }
 
 TEST_F(TriangulacionDlg, HasNoClassInformationOfItsOwn) {

@@ -38,6 +38,7 @@ protected:
               int boton) {
         kit::Script script;
         script.onDialog([=](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.caption(), L"Open");
             dialogo.setText(CampoNombre, tecleado);
             dialogo.press(boton);
         });
@@ -84,6 +85,20 @@ TEST_F(AplicacionDelHost, QuotesOneOfSeveralToo) {
     CString nombres;
     EXPECT_TRUE(Pide(nombres, AbrirVarios, TRUE, Ruta(L"two words.dat"), IDOK));
     EXPECT_EQ(nombres, (L"\"" + Ruta(L"two words.dat") + L"\"").c_str());
+}
+
+TEST_F(AplicacionDelHost, QuotesNoNameButThoseWithABlankOrAByteOrderMark) {
+    const std::filesystem::path temporal = std::filesystem::temp_directory_path();
+    ASSERT_EQ(temporal.wstring().find(L' '), std::wstring::npos);
+    for (const wchar_t* nombre : {L"plain.dat", L"mark\uFEFF.dat"}) {
+        const std::wstring ruta = (temporal / nombre).wstring();
+        std::ofstream(temporal / nombre) << "data";
+        CString nombres;
+        EXPECT_TRUE(Pide(nombres, AbrirVarios, TRUE, ruta, IDOK));
+        const bool conMarca = ruta.find(L'\uFEFF') != std::wstring::npos;
+        EXPECT_EQ(nombres, (conMarca ? L"\"" + ruta + L"\"" : ruta).c_str());
+        std::filesystem::remove(temporal / nombre);
+    }
 }
 
 TEST_F(AplicacionDelHost, HasNoDocumentTemplate) {

@@ -21,7 +21,8 @@ public:
     ///
     /// @param nombre    the name shown at first; holds the chosen one afterwards. With
     ///                  `OFN_ALLOWMULTISELECT`, all chosen names with a blank between them, each
-    ///                  in double quotes when it holds a blank. Untouched when the user cancels.
+    ///                  in double quotes when it holds a blank or a byte-order mark. Untouched when
+    ///                  the user cancels.
     /// @param titulo    number of the string shown as title.
     /// @param opciones  flags of Windows' `OPENFILENAME` (`OFN_*`).
     /// @param abrir     TRUE asks for a file to open, FALSE for one to save.

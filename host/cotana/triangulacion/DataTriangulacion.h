@@ -12,13 +12,13 @@ public:
     CDataTriangulacion& operator=(const CDataTriangulacion&);
     virtual ~CDataTriangulacion();
 
-    /// Lowest elevation that takes part, in metres; below `m_LimiteSuperior`.
+    /// Lower value of the pair of limits, in metres; below `m_LimiteSuperior`.
     double m_LimiteInferior = -1000.0;
-    /// Highest elevation that takes part, in metres.
+    /// Upper value of the pair of limits, in metres.
     double m_LimiteSuperior = 9000.0;
     /// Distance within which lines of one elevation are not joined, in metres; above 1e-7.
     double m_DistanciaNoUnir = 10.0;
-    /// Longest triangle side, in metres; 0 sets no bound.
+    /// Further number; not checked.
     double m_ParametroExtra = 0.0;
     /// How breaklines act: 0 to 3, the index of the treatment; -1 when none is chosen.
     int m_TipoRuptura = 0;
@@ -32,9 +32,9 @@ public:
     CDigiTab m_Codigos;
     /// The codes that act as breaklines.
     CDigiTab m_CodigosRuptura;
-    /// Codes of an earlier triangulation; emptied when new options are accepted.
+    /// Emptied when new options are accepted.
     CDigiTab m_CodigosExtra1;
-    /// Breakline codes of an earlier triangulation; emptied when new options are accepted.
+    /// Emptied when new options are accepted.
     CDigiTab m_CodigosExtra2;
 };
 

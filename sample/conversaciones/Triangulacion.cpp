@@ -49,7 +49,7 @@ void ConduceTriangulacion(Visita& visita) {
         dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"12.5");
         dialogo.check(IDC_TRIANGULACION_TIPO_RUPTURA_2);
 
-        // The ground takes part, and what bounds it; break lines are those that are named so.
+        // The ground takes part, and what bounds it; breaklines are those that are named so.
         kit::ListView codigos = dialogo.list(IDC_TRIANGULACION_CODIGOS);
         for (const wchar_t* codigo : {L"POL-E", L"POL-T", L"MHC", L"HYD", L"GUL", L"MRK-G"})
             codigos.click(codigos.find(codigo), kit::Held::Ctrl);

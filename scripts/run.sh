@@ -8,10 +8,15 @@ set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 
 display=${DISPLAY:-}
-if [ "${1:-}" = --tour ]; then
-  display=
-  shift
-fi
+arguments=()
+for argument in "$@"; do
+  if [ "$argument" = --tour ]; then
+    display=
+  else
+    arguments+=("$argument")
+  fi
+done
+set -- ${arguments[@]+"${arguments[@]}"}
 
 # The display's socket is there: a stale DISPLAY, as in a container, has none.
 display_answers() {

@@ -30,36 +30,45 @@ prepare_wine_prefix() {
     mkdir "$WINEPREFIX"
     # Wine's servers outlive the command that starts them: they must hold neither its
     # output nor the lock.
-    fill_wine_prefix </dev/null >/dev/null 2>&1 9>&-
+    fill_wine_prefix </dev/null >"$final.log" 2>&1 9>&- || {
+      echo "Wine could not make a prefix; what it said is in $final.log." >&2
+      exit 1
+    }
     touch "$WINEPREFIX/.cuadros-ready"
     mv "$WINEPREFIX" "$final"
   ) 9>"$WINEPREFIX.lock"
 }
 
 fill_wine_prefix() {
-  wineboot -i
-  # Without these fonts every dialog template comes out in a wrong size.
-  cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
-  {
-    printf 'REGEDIT4\n\n'
-    if [ -z "$DISPLAY" ]; then
-      printf '[HKEY_CURRENT_USER\\Software\\Wine\\Drivers]\n"Graphics"="null"\n\n'
-    fi
-    # A crash ends the program; Wine's dialog about it would wait for ever.
-    printf '[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]\n"ShowCrashDialog"=dword:00000000\n\n'
-    # Heap checking on, for every program.
-    printf '[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\Session Manager]\n'
-    printf '"GlobalFlag"=dword:00000030\n'
-  } >"$WINEPREFIX/drive_c/cuadros.reg"
-  wine regedit /S 'C:\cuadros.reg'
+  wineboot -i &&
+    # Without these fonts every dialog template comes out in a wrong size.
+    cp /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/" &&
+    wine_settings >"$WINEPREFIX/drive_c/cuadros.reg" &&
+    wine regedit /S 'C:\cuadros.reg' || return
+  # No server may run any more: that is no failure.
   wineserver -k || true
   wineserver -w || true
 }
 
+wine_settings() {
+  printf 'REGEDIT4\n\n'
+  if [ -z "$DISPLAY" ]; then
+    printf '[HKEY_CURRENT_USER\\Software\\Wine\\Drivers]\n"Graphics"="null"\n\n'
+  fi
+  # A crash ends the program; Wine's dialog about it would wait for ever.
+  printf '[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]\n"ShowCrashDialog"=dword:00000000\n\n'
+  # Heap checking on, for every program.
+  printf '[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\Session Manager]\n'
+  printf '"GlobalFlag"=dword:00000030\n'
+}
+
 # Keeps this prefix's server running between programs: a start costs 0.3 s, then 0.01 s.
 start_wine() {
-  wineserver -p </dev/null >/dev/null 2>&1
-  wine cmd /c exit </dev/null >/dev/null 2>&1
+  wineserver -p </dev/null >/dev/null 2>&1 || true # one may run already
+  wine cmd /c exit </dev/null >/dev/null 2>&1 || {
+    echo "Wine does not run in $WINEPREFIX." >&2
+    return 1
+  }
 }
 
 # Ends this prefix's server and what still runs in it; other prefixes are not touched.

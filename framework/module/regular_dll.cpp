@@ -52,6 +52,17 @@ bool AddToChain(HINSTANCE instance) {
     return false;
 }
 
+// An exception would leave the loading half way, under the module's state: it is a failure.
+bool InitInstanceOf(CWinApp& app) {
+    try {
+        return app.InitInstance() != FALSE;
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) { // of any kind
+    }
+    return false;
+}
+
 // The whole start, or nothing: what was begun before a failure is undone.
 bool Start(HINSTANCE instance) {
     wchar_t noCommandLine[] = L"";
@@ -60,7 +71,7 @@ bool Start(HINSTANCE instance) {
         return false;
     }
     CWinApp* app = AfxGetApp();
-    if (app && !app->InitInstance()) {
+    if (app && !InitInstanceOf(*app)) {
         app->ExitInstance();
         AfxWinTerm();
         return false;

@@ -56,7 +56,7 @@ BOOL CWinApp::InitInstance() {
 }
 
 int CWinApp::ExitInstance() {
-    return static_cast<int>(afx_internal::CurrentThread().currentMessage.wParam);
+    return afx_internal::ExitCodeOfLoop();
 }
 
 int CWinApp::Run() {
@@ -66,7 +66,7 @@ int CWinApp::Run() {
     return CWinThread::Run();
 }
 
-void CWinApp::SetCurrentHandles() {
+void CWinApp::TakeModuleNames() {
     const std::wstring path = afx_internal::ModulePath(m_hInstance);
     const std::wstring title = FileTitle(path);
     if (!m_pszExeName)
@@ -138,7 +138,7 @@ void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd) {
         AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
 }
 
-void CWinApp::WinHelpInternal(DWORD_PTR dwData, UINT nCmd) {
+void CWinApp::ShowHelp(DWORD_PTR dwData, UINT nCmd) {
     if (m_eHelpType == afxHTMLHelp) {
         constexpr UINT helpContext = 0x000F; // HH_HELP_CONTEXT
         HtmlHelp(dwData, nCmd == HELP_CONTEXT ? helpContext : nCmd);
@@ -177,14 +177,14 @@ HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
 }
 
 void CWinApp::DoWaitCursor(int nCode) {
-    const int before = m_nWaitCursorCount;
-    m_nWaitCursorCount = std::max(0, before + nCode);
-    if (m_nWaitCursorCount > 0) {
+    const int before = m_waits;
+    m_waits = std::max(0, before + nCode);
+    if (m_waits > 0) {
         const HCURSOR previous = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
         if (before == 0)
-            m_hcurWaitCursorRestore = previous;
+            m_cursorBeforeWait = previous;
     } else if (before > 0) {
-        ::SetCursor(m_hcurWaitCursorRestore);
+        ::SetCursor(m_cursorBeforeWait);
     }
 }
 
@@ -205,25 +205,41 @@ void CWaitCursor::Restore() {
 
 namespace {
 
-int ShowMessage(LPCTSTR text, LPCTSTR caption, UINT type) {
+// F1 in a message box gives the help of the message, or none: the key shall not climb on to the
+// owner, whose help is about something else.
+void CALLBACK OnMessageHelp(HELPINFO* info) {
+    CWinApp* app = AfxGetApp();
+    if (app && info->dwContextId != 0)
+        app->ShowHelp(info->dwContextId);
+}
+
+int ShowMessage(LPCTSTR text, LPCTSTR caption, UINT type, UINT helpId) {
     if ((type & MB_ICONMASK) == 0)
         type |= MB_ICONEXCLAMATION;
     HWND top = nullptr;
     const CWnd* owner = CWnd::GetSafeOwner(nullptr, &top);
     const afx_internal::DisabledWindow disabled(top);
-    return ::MessageBox(HandleOf(owner), text, caption, type);
+    MSGBOXPARAMS box = {};
+    box.cbSize = sizeof box;
+    box.hwndOwner = HandleOf(owner);
+    box.lpszText = text;
+    box.lpszCaption = caption;
+    box.dwStyle = type;
+    box.dwContextHelpId = helpId != 0 ? HID_BASE_PROMPT + helpId : 0;
+    box.lpfnMsgBoxCallback = &OnMessageHelp;
+    return ::MessageBoxIndirect(&box);
 }
 
 } // namespace
 
-int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
-    return ShowMessage(lpszPrompt, m_pszAppName, nType);
+int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) {
+    return ShowMessage(lpszPrompt, m_pszAppName, nType, nIDPrompt);
 }
 
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
     if (CWinApp* app = AfxGetApp())
         return app->DoMessageBox(lpszText, nType, nIDHelp);
-    return ShowMessage(lpszText, nullptr, nType);
+    return ShowMessage(lpszText, nullptr, nType, nIDHelp);
 }
 
 int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {

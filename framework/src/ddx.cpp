@@ -13,8 +13,8 @@ HWND CDataExchange::Prepare(int nIDC, bool edit) {
     const HWND control = m_pDlgWnd->m_exchangedControls.Find(m_pDlgWnd->m_hWnd, nIDC);
     if (!control)
         AfxThrowNotSupportedException();
-    m_hWndLastControl = control;
-    m_bEditLastControl = edit;
+    m_control = control;
+    m_controlIsEdit = edit;
     return control;
 }
 
@@ -31,11 +31,11 @@ HWND CDataExchange::NextCtrl(HWND control) {
 }
 
 void CDataExchange::Fail() {
-    if (m_bSaveAndValidate && m_hWndLastControl) {
-        ::SetFocus(m_hWndLastControl);
-        if (m_bEditLastControl) {
-            ::SendMessage(m_hWndLastControl, EM_SETSEL, 0, -1);
-            ::SendMessage(m_hWndLastControl, EM_SCROLLCARET, 0, 0);
+    if (m_bSaveAndValidate && m_control) {
+        ::SetFocus(m_control);
+        if (m_controlIsEdit) {
+            ::SendMessage(m_control, EM_SETSEL, 0, -1);
+            ::SendMessage(m_control, EM_SCROLLCARET, 0, 0);
         }
     }
     AfxThrowUserException();

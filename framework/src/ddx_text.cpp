@@ -185,6 +185,21 @@ void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD
     RequireRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
 }
 
+void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
+                               LONGLONG maxVal) {
+    RequireRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+
+void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
+                                ULONGLONG maxVal) {
+    RequireRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+
+void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
+                               unsigned maxVal) {
+    RequireRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_INT_RANGE);
+}
+
 void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal) {
     RequireRange(pDX, value, minVal, maxVal, AFX_IDP_PARSE_REAL_RANGE);
 }

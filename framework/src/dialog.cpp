@@ -15,8 +15,8 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
-    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
-    ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::AnswerInitDialog)
+    ON_MESSAGE(WM_SETFONT, &CDialog::AnswerSetFont)
     ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
     ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
 END_MESSAGE_MAP()
@@ -68,7 +68,17 @@ void CDialog::TakeTemplateName(LPCTSTR name) {
 
 bool CDialog::CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance) {
     const afx_internal::WindowCreation creation(this);
+    m_initialised = false;
     return ::CreateDialogIndirect(instance, dialogTemplate, owner, &DialogProc) != nullptr;
+}
+
+bool CDialog::CreateModeless(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance) {
+    m_bModalEnded = false; // of a modal run before
+    if (!CreateFrom(dialogTemplate, HandleOf(m_pParentWnd), instance))
+        return false;
+    if (!m_initialised) // an exception ended it half way
+        DestroyWindow();
+    return m_initialised;
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
@@ -80,12 +90,12 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
         TakeTemplateName(lpszTemplateName);
     const Template found = FindTemplate(lpszTemplateName);
     m_pParentWnd = pParentWnd ? pParentWnd : AfxGetMainWnd();
-    return found.data && CreateFrom(found.data, HandleOf(m_pParentWnd), found.module);
+    return found.data && CreateModeless(found.data, found.module);
 }
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
     m_pParentWnd = pParentWnd ? pParentWnd : AfxGetMainWnd();
-    return CreateFrom(lpDialogTemplate, HandleOf(m_pParentWnd), AfxGetResourceHandle());
+    return CreateModeless(lpDialogTemplate, AfxGetResourceHandle());
 }
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd) {
@@ -107,13 +117,11 @@ INT_PTR CDialog::DoModal() {
     afx_internal::DisabledWindow disabledOwner(owner);
     const afx_internal::DisabledWindow disabledTop(top);
 
-    m_nModalResult = -1;
-    m_bModalEnded = false;
-    m_bModal = true; // from here on EndDialog counts, in OnInitDialog too
+    BeginModal(); // from here on EndDialog counts, in OnInitDialog too
     try {
         if (CreateFrom(found.data, owner, found.module)) {
-            RunModalLoop(found.data->style & DS_NOIDLEMSG ? MLF_SHOWONIDLE | MLF_NOIDLEMSG
-                                                          : MLF_SHOWONIDLE);
+            RunModalLoop(GetStyle() & DS_NOIDLEMSG ? MLF_SHOWONIDLE | MLF_NOIDLEMSG
+                                                   : MLF_SHOWONIDLE);
             if (m_hWnd)
                 ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0,
                                SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE |
@@ -121,7 +129,9 @@ INT_PTR CDialog::DoModal() {
         }
     } catch (CException* e) {
         e->Delete();
-        m_nModalResult = -1;
+        EndModalLoop(-1);
+    } catch (...) { // whatever it is, the host goes on
+        EndModalLoop(-1);
     }
     m_bModal = false;
 
@@ -138,8 +148,10 @@ void CDialog::EndDialog(int nResult) {
     EndModalLoop(nResult);
 }
 
-LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
-    return OnInitDialog();
+LRESULT CDialog::AnswerInitDialog(WPARAM, LPARAM) {
+    const BOOL setFocus = OnInitDialog();
+    m_initialised = true;
+    return setFocus;
 }
 
 BOOL CDialog::OnInitDialog() {
@@ -154,7 +166,7 @@ BOOL CDialog::OnInitDialog() {
     return TRUE;
 }
 
-LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
+LRESULT CDialog::AnswerSetFont(WPARAM wParam, LPARAM) {
     OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
     return Default();
 }
@@ -179,7 +191,7 @@ DWORD CDialog::GetDefID() const {
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
-    return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
+    return CWnd::PreTranslateMessage(pMsg) || TranslateDialogKeys(pMsg);
 }
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
@@ -187,7 +199,8 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
         return TRUE;
     // Identifiers below this are the dialog's own; from here on they are the application's.
     constexpr UINT firstCommand = 0x8000;
-    if (nCode != CN_COMMAND || nID < firstCommand || nID > 0xFFFF)
+    constexpr UINT firstSystemCommand = 0xF000;
+    if (nCode != CN_COMMAND || nID < firstCommand || nID >= firstSystemCommand)
         return FALSE;
     CWnd* owner = GetOwner();
     if (owner && FromHandlePermanent(owner->m_hWnd) &&
@@ -204,7 +217,7 @@ LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM lParam) {
     CWinApp* app = AfxGetApp();
     if (context == 0 || !app)
         return FALSE;
-    app->WinHelpInternal(context);
+    app->ShowHelp(context);
     return TRUE;
 }
 

@@ -1,39 +1,12 @@
 #include <afxrt/handle_map.h>
 
+#include "thread_slot.h"
+
 #include <atomic>
-#include <windows.h>
 
 namespace afx_internal {
-namespace {
-
-using Maps = std::vector<std::unique_ptr<TemporaryObjects>>;
-
-// Where each thread keeps its maps, which end with it. Not thread_local: when a thread ends, the
-// compiler's runtime frees the memory of such objects before it calls their destructors.
-class Slot {
-public:
-    Slot() : m_slot(::FlsAlloc([](void* maps) { delete static_cast<Maps*>(maps); })) {}
-    ~Slot() { ::FlsFree(m_slot); }
-    Slot(const Slot&) = delete;
-    Slot& operator=(const Slot&) = delete;
-
-    Maps& Get() const {
-        auto* maps = static_cast<Maps*>(::FlsGetValue(m_slot));
-        if (!maps) {
-            maps = new Maps;
-            ::FlsSetValue(m_slot, maps);
-        }
-        return *maps;
-    }
-
-private:
-    DWORD m_slot;
-};
-
-} // namespace
-
 std::vector<std::unique_ptr<TemporaryObjects>>& MapsOfThread() {
-    static const Slot slot;
+    static const ThreadSlot<std::vector<std::unique_ptr<TemporaryObjects>>> slot;
     return slot.Get();
 }
 

@@ -5,15 +5,18 @@
 #include "afxrt/wnd.h"
 #include "module_file.h"
 #include "start_fault.h"
+#include "thread_slot.h"
 #include "thread_state.h"
+
+#include <utility>
 
 using afx_internal::CurrentThread;
 
 namespace afx_internal {
 
 ThreadState& CurrentThread() {
-    thread_local ThreadState state;
-    return state;
+    static const ThreadSlot<ThreadState> slot;
+    return slot.Get();
 }
 
 namespace {
@@ -67,9 +70,8 @@ AFX_MODULE_STATE* AFXAPI AfxGetModuleState() {
 }
 
 AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState) {
-    AFX_MODULE_STATE* previous = AfxGetModuleState();
-    CurrentThread().moduleState = pNewState;
-    return previous;
+    AFX_MODULE_STATE* previous = std::exchange(CurrentThread().moduleState, pNewState);
+    return previous ? previous : AfxGetAppModuleState();
 }
 
 AFX_MAINTAIN_STATE::AFX_MAINTAIN_STATE(AFX_MODULE_STATE* pModuleState)
@@ -119,7 +121,6 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
                        int nCmdShow) {
     if (hPrevInstance || afx_internal::FailsHere(afx_internal::StartFault::winInit))
         return FALSE;
-    ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     AFX_MODULE_STATE* state = AfxGetModuleState();
     state->m_hCurrentInstanceHandle = hInstance;
     state->m_hCurrentResourceHandle = hInstance;
@@ -129,7 +130,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
         app->m_hInstance = hInstance;
         app->m_lpCmdLine = lpCmdLine;
         app->m_nCmdShow = nCmdShow;
-        app->SetCurrentHandles();
+        app->TakeModuleNames();
     }
     return TRUE;
 }

@@ -39,6 +39,8 @@ std::wstring WithoutExtension(const std::wstring& path) {
 
 HINSTANCE LoadLanguageModule(HMODULE module) {
     const std::wstring stem = WithoutExtension(ModulePath(module));
+    if (stem.empty()) // a bare name would be looked for in other folders
+        return nullptr;
     const LANGID user = ::GetUserDefaultUILanguage();
     const LANGID system = ::GetSystemDefaultUILanguage();
     for (const std::wstring& code :

@@ -6,6 +6,11 @@
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
+int afx_internal::ExitCodeOfLoop() {
+    const MSG& last = CurrentThread().pumpedMessage;
+    return last.message == WM_QUIT ? static_cast<int>(last.wParam) : 0;
+}
+
 CWinThread::CWinThread() : m_hThread(::GetCurrentThread()), m_nThreadID(::GetCurrentThreadId()) {}
 
 CWinThread::~CWinThread() = default;
@@ -15,7 +20,7 @@ BOOL CWinThread::InitInstance() {
 }
 
 int CWinThread::ExitInstance() {
-    return static_cast<int>(afx_internal::CurrentThread().currentMessage.wParam);
+    return afx_internal::ExitCodeOfLoop();
 }
 
 int CWinThread::Run() {
@@ -28,7 +33,7 @@ int CWinThread::Run() {
         do {
             if (!PumpMessage())
                 return ExitInstance();
-            if (IsIdleMessage(&afx_internal::CurrentThread().currentMessage)) {
+            if (IsIdleMessage(&afx_internal::CurrentThread().pumpedMessage)) {
                 idle = true;
                 idleCount = 0;
             }
@@ -39,7 +44,7 @@ int CWinThread::Run() {
 BOOL CWinThread::PumpMessage() {
     MSG message;
     const BOOL more = ::GetMessage(&message, nullptr, 0, 0) > 0;
-    afx_internal::CurrentThread().currentMessage = message;
+    afx_internal::CurrentThread().pumpedMessage = message;
     if (!more)
         return FALSE;
     if (message.message != WM_KICKIDLE && !PreTranslateMessage(&message)) {

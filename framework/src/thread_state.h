@@ -8,11 +8,15 @@ namespace afx_internal {
 struct ThreadState {
     AFX_MODULE_STATE* moduleState = nullptr; // null: the application's
     MSG currentMessage = {};                 // the one that a window procedure is at
-    HWND exchangeWindow = nullptr;           // its controls' notifications are ignored
+    MSG pumpedMessage = {};                  // the last one that a loop took from the queue
+    CWnd* modalWindow = nullptr;             // the innermost one that runs modally
     CWnd* windowInCreation = nullptr;
     HHOOK creationHook = nullptr;
 };
 
 ThreadState& CurrentThread();
+
+/// What the message that ended the thread's loop says; 0 when no loop was ended.
+int ExitCodeOfLoop();
 
 } // namespace afx_internal

@@ -11,6 +11,7 @@
 #include "window_text.h"
 
 #include <algorithm>
+#include <set>
 #include <string>
 
 using afx_internal::CurrentThread;
@@ -84,7 +85,7 @@ void CWnd::AttachAndSubclass(HWND hWnd) {
     const auto before = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ours)));
     if (before != ours)
-        m_pfnSuper = before;
+        m_ownProcedure = before;
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
@@ -99,9 +100,9 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
 }
 
 HWND CWnd::UnsubclassWindow() {
-    if (m_hWnd && m_pfnSuper)
-        ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
-    m_pfnSuper = nullptr;
+    if (m_hWnd && m_ownProcedure)
+        ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_ownProcedure));
+    m_ownProcedure = nullptr;
     return Detach();
 }
 
@@ -169,7 +170,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                                   static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy,
                                   cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
     }
-    if (!window && !m_hWnd && !m_pfnSuper)
+    if (!window && !m_hWnd && !m_ownProcedure)
         PostNcDestroy(); // not even WM_NCDESTROY came, which would have called it
     return window != nullptr;
 }
@@ -201,6 +202,8 @@ BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass) {
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground,
                                    HICON hIcon) {
+    // Names outlive every window of theirs.
+    static std::set<std::wstring>& names = *new std::set<std::wstring>;
     const HINSTANCE instance = AfxGetInstanceHandle();
     CString name;
     name.Format(L"Afx:%p:%x:%p:%p:%p", instance, nClassStyle, hCursor, hbrBackground, hIcon);
@@ -209,16 +212,12 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     windowClass.lpfnWndProc = ::DefWindowProc;
     windowClass.hInstance = instance;
     windowClass.hIcon = hIcon;
-    windowClass.hCursor = hCursor;
+    windowClass.hCursor = hCursor ? hCursor : ::LoadCursor(nullptr, IDC_ARROW);
     windowClass.hbrBackground = hbrBackground;
     windowClass.lpszClassName = name;
     if (!AfxRegisterClass(&windowClass))
         AfxThrowResourceException();
-    // The atom's name is as good as the name, and needs no memory of its own.
-    WNDCLASSEX registered = {};
-    registered.cbSize = sizeof registered;
-    return reinterpret_cast<LPCTSTR>(
-        static_cast<ULONG_PTR>(::GetClassInfoEx(instance, name, &registered) & 0xFFFF));
+    return names.insert(name.GetString()).first->c_str();
 }
 
 // ---- State
@@ -440,7 +439,7 @@ CWnd* CWnd::SetParent(CWnd* pWndNewParent) {
 }
 
 CWnd* CWnd::GetOwner() const {
-    return m_hWndOwner ? FromHandle(m_hWndOwner) : GetParent();
+    return m_chosenOwner ? FromHandle(m_chosenOwner) : GetParent();
 }
 
 CWnd* CWnd::GetTopLevelParent() const {
@@ -469,22 +468,20 @@ CWnd* PASCAL CWnd::FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
 }
 
 CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
-    if (pWndTop)
-        *pWndTop = nullptr;
     HWND owner = HandleOf(pParent);
-    const CWnd* main = AfxGetMainWnd();
-    if (!owner)
-        owner = HandleOf(main);
-    if (owner)
+    if (owner) {
         owner = ::GetAncestor(owner, GA_ROOT);
-    if (pParent)
-        return FromHandle(owner);
-
-    // No parent was named: the new window belongs to what the user is at.
-    const HWND top = owner;
-    owner = top ? ::GetLastActivePopup(top) : ::GetActiveWindow();
-    if (pWndTop && top != owner)
-        *pWndTop = top;
+    } else if (const HWND main = HandleOf(AfxGetMainWnd())) {
+        // No parent was named: the new window belongs to what the user is at.
+        owner = ::GetLastActivePopup(::GetAncestor(main, GA_ROOT));
+    } else {
+        owner = ::GetActiveWindow();
+        if (!owner) // the user is at another application
+            owner = HandleOf(CurrentThread().modalWindow);
+    }
+    const HWND top = owner ? ::GetAncestor(owner, GA_ROOTOWNER) : nullptr;
+    if (pWndTop)
+        *pWndTop = top != owner ? top : nullptr;
     return FromHandle(owner);
 }
 

@@ -9,27 +9,21 @@
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
-namespace {
-
-// The notifications of a window's controls are ignored as long as this lives; an exchange
-// inside another one gives back what was.
-class ExchangeLock {
+// The notifications of a window's controls are ignored as long as one of these lives.
+class afx_internal::ExchangeLock {
 public:
-    explicit ExchangeLock(HWND window)
-        : m_previous(std::exchange(afx_internal::CurrentThread().exchangeWindow, window)) {}
-    ~ExchangeLock() { afx_internal::CurrentThread().exchangeWindow = m_previous; }
+    explicit ExchangeLock(CWnd& window) : m_exchanges(window.m_exchanges) { ++m_exchanges; }
+    ~ExchangeLock() { --m_exchanges; }
     ExchangeLock(const ExchangeLock&) = delete;
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
 private:
-    HWND m_previous;
+    int& m_exchanges;
 };
-
-} // namespace
 
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     CDataExchange exchange(this, bSaveAndValidate);
-    const ExchangeLock lock(m_hWnd);
+    const afx_internal::ExchangeLock lock(*this);
     try {
         DoDataExchange(&exchange);
         return TRUE;

@@ -1,6 +1,7 @@
 // Windows: the way of a message from the system to a handler, and the default handlers.
 #include "afxrt/wnd.h"
 
+#include "afxres.h"
 #include "afxrt/controls.h"
 #include "afxrt/device_context.h"
 #include "thread_state.h"
@@ -18,13 +19,14 @@ namespace {
 class CurrentMessage {
 public:
     CurrentMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-        : m_previous(std::exchange(CurrentThread().currentMessage,
-                                   MSG{window, message, wParam, lParam, 0, {}})) {}
-    ~CurrentMessage() { CurrentThread().currentMessage = m_previous; }
+        : m_current(CurrentThread().currentMessage),
+          m_previous(std::exchange(m_current, MSG{window, message, wParam, lParam, 0, {}})) {}
+    ~CurrentMessage() { m_current = m_previous; }
     CurrentMessage(const CurrentMessage&) = delete;
     CurrentMessage& operator=(const CurrentMessage&) = delete;
 
 private:
+    MSG& m_current;
     MSG m_previous;
 };
 
@@ -44,7 +46,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     } catch (CException* e) {
         LRESULT result = 0;
         if (message == WM_INITDIALOG) {
-            window->EndModalLoop(-1);
+            window->EndModalLoop(-1); // a modeless dialog's Create fails
         } else if (CWinThread* thread = AfxGetThread()) {
             const MSG msg = {hWnd, message, wParam, lParam, 0, {}};
             result = thread->ProcessWndProcException(e, &msg);
@@ -52,10 +54,14 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         e->Delete();
         return result;
     } catch (...) {
+        if (message == WM_PAINT)
+            ::ValidateRect(hWnd, nullptr); // or it would come again at once, for ever
         // What it left behind is unknown: the conversation ends, the application goes on.
-        if (CWnd* still = CWnd::FromHandlePermanent(hWnd))
-            if (CWnd* top = CWnd::FromHandlePermanent(::GetAncestor(still->m_hWnd, GA_ROOT)))
-                top->EndModalLoop(-1);
+        CWnd* top = CWnd::FromHandlePermanent(::GetAncestor(hWnd, GA_ROOT));
+        if (top && top->ContinueModal())
+            top->EndModalLoop(-1);
+        else if (message != WM_CREATE && message != WM_INITDIALOG)
+            AfxMessageBox(AFX_IDP_NO_ERROR_AVAILABLE, MB_ICONSTOP);
         return message == WM_CREATE ? -1 : 0;
     }
 }
@@ -72,8 +78,12 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (m_pfnSuper)
-        return ::CallWindowProc(m_pfnSuper, m_hWnd, message, wParam, lParam);
+    // Most messages come to dialogs, and asking the system how to call their procedure would cost
+    // more than all that the framework does with one.
+    if (m_ownProcedure == &::DefDlgProc)
+        return ::DefDlgProc(m_hWnd, message, wParam, lParam);
+    if (m_ownProcedure)
+        return ::CallWindowProc(m_ownProcedure, m_hWnd, message, wParam, lParam);
     return ::DefWindowProc(m_hWnd, message, wParam, lParam);
 }
 
@@ -97,9 +107,11 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     // The colours of all kinds of controls are asked for in one place.
     const bool colour = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
     const AFX_MSGMAP* map = GetMessageMap();
+    const bool registered = message >= 0xC000;
     const AFX_MSGMAP_ENTRY* entry =
-        afx_internal::FindMessageEntry(map, colour ? WM_CTLCOLORBTN : message, 0, 0);
-    if (!entry && message >= 0xC000) {
+        registered ? nullptr
+                   : afx_internal::FindMessageEntry(map, colour ? WM_CTLCOLORBTN : message, 0, 0);
+    if (registered) {
         // Registered messages: a row holds the address of a number known at run time.
         for (; map && !entry; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
             for (const AFX_MSGMAP_ENTRY* row = map->lpEntries;
@@ -246,7 +258,7 @@ BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHand
 bool CWnd::TakesControlNotifications() const {
     // During an exchange the controls only echo what the exchange does to them. Once a modal
     // run has its result, they only report that the window is closing.
-    return CurrentThread().exchangeWindow != m_hWnd && !m_bModalEnded;
+    return m_exchanges == 0 && !m_bModalEnded;
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -258,22 +270,23 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     return OnCmdMsg(id, code, nullptr, nullptr);
 }
 
-BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
+BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     auto* const header = reinterpret_cast<NMHDR*>(lParam);
     if (!TakesControlNotifications())
         return TRUE;
     AFX_NOTIFY notify = {pResult, header};
-    const auto id = static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom));
+    // Controls give their number, tooltips that of a tool. Only these are asked: a list that is
+    // filled notifies row by row, and the question would cost more than all else here.
+    const bool fromTooltip = header->code <= TTN_FIRST && header->code >= TTN_LAST;
+    const auto id = fromTooltip ? static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom))
+                                : static_cast<UINT>(wParam);
     return OnCmdMsg(id, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
 }
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
                                     BOOL bOnlyPerm) {
     for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        CWnd* object = FromHandlePermanent(child);
-        if (object && bOnlyPerm)
-            object->WindowProc(message, wParam, lParam);
-        else if (!bOnlyPerm)
+        if (!bOnlyPerm || FromHandlePermanent(child))
             ::SendMessage(child, message, wParam, lParam);
         if (bDeep)
             FromHandle(child)->SendMessageToDescendants(message, wParam, lParam, bDeep, bOnlyPerm);
@@ -284,7 +297,7 @@ BOOL CWnd::PreTranslateMessage(MSG*) {
     return FALSE;
 }
 
-BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
+BOOL CWnd::TranslateDialogKeys(LPMSG lpMsg) {
     const bool key = lpMsg->message >= WM_KEYFIRST && lpMsg->message <= WM_KEYLAST;
     const bool mouse = lpMsg->message >= WM_MOUSEFIRST && lpMsg->message <= WM_MOUSELAST;
     return (key || mouse) && IsDialogMessage(lpMsg);
@@ -301,6 +314,8 @@ void CWnd::OnNcDestroy() {
     if (m_hWnd) {
         if (CWinThread* thread = AfxGetThread(); thread && thread->m_pMainWnd == this)
             thread->m_pMainWnd = nullptr;
+        if (!m_bModalEnded)
+            EndModalLoop(-1); // or its loop would wait for ever
         UnsubclassWindow();
     }
     PostNcDestroy();

@@ -3,12 +3,18 @@
 
 #include "thread_state.h"
 
+#include <utility>
+
+using afx_internal::CurrentThread;
+
 namespace {
 
 // One message of a loop without a thread object.
 bool PumpMessage() {
     MSG message;
-    if (::GetMessage(&message, nullptr, 0, 0) <= 0)
+    const bool more = ::GetMessage(&message, nullptr, 0, 0) > 0;
+    CurrentThread().pumpedMessage = message;
+    if (!more)
         return false;
     for (HWND window = message.hwnd; window; window = ::GetAncestor(window, GA_PARENT)) {
         CWnd* object = CWnd::FromHandlePermanent(window);
@@ -27,10 +33,25 @@ bool QueueIsEmpty() {
     return !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE);
 }
 
+// The innermost modal window of the thread, for as long as its loop runs.
+class Innermost {
+public:
+    explicit Innermost(CWnd* window)
+        : m_outer(std::exchange(CurrentThread().modalWindow, window)) {}
+    ~Innermost() { CurrentThread().modalWindow = m_outer; }
+    Innermost(const Innermost&) = delete;
+    Innermost& operator=(const Innermost&) = delete;
+
+private:
+    CWnd* m_outer;
+};
+
 } // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    m_bModal = true;
+    if (!m_bModal) // a dialog has begun its modal run before its window was made
+        BeginModal();
+    const Innermost innermost(this);
     bool shown = !(dwFlags & MLF_SHOWONIDLE) || IsWindowVisible();
     bool idle = true; // whether something has happened since the last idle time
     while (ContinueModal()) {
@@ -53,16 +74,21 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
         CWinThread* thread = AfxGetThread();
         if (!(thread ? thread->PumpMessage() : PumpMessage())) {
             // The application is quitting: the loop around this one must learn it too.
-            ::PostQuitMessage(
-                static_cast<int>(afx_internal::CurrentThread().currentMessage.wParam));
-            m_nModalResult = -1;
+            ::PostQuitMessage(static_cast<int>(CurrentThread().pumpedMessage.wParam));
+            EndModalLoop(-1);
             break;
         }
-        MSG last = afx_internal::CurrentThread().currentMessage;
+        MSG last = CurrentThread().pumpedMessage;
         idle = idle || !thread || thread->IsIdleMessage(&last);
     }
     m_bModal = false;
     return m_nModalResult;
+}
+
+void CWnd::BeginModal() {
+    m_nModalResult = -1;
+    m_bModalEnded = false;
+    m_bModal = true;
 }
 
 BOOL CWnd::ContinueModal() {
@@ -74,6 +100,6 @@ void CWnd::EndModalLoop(int nResult) {
         return;
     m_nModalResult = nResult;
     m_bModalEnded = true;
-    // A loop that waits for a message must look up.
-    PostMessage(WM_NULL);
+    // A loop that waits for a message must look up, also when the window is going.
+    ::PostMessage(nullptr, WM_NULL, 0, 0);
 }

@@ -397,16 +397,16 @@ TEST_F(AppHelp, IsTheOlderKindUntilHtmlHelpIsEnabled) {
     HelpedApp& app = application.app;
     std::filesystem::path path = ProgramPath();
     EXPECT_EQ(app.m_eHelpType, afxWinHelp);
-    app.WinHelpInternal(150083);
+    app.ShowHelp(150083);
     app.EnableHtmlHelp();
     EXPECT_EQ(app.m_eHelpType, afxHTMLHelp);
     EXPECT_EQ(app.GetHelpMode(), afxHTMLHelp);
     EXPECT_EQ(app.m_pszHelpFilePath, path.replace_extension(L"CHM").native());
-    app.WinHelpInternal(150083);
-    app.WinHelpInternal(7, HELP_QUIT);
+    app.ShowHelp(150083);
+    app.ShowHelp(7, HELP_QUIT);
     app.SetHelpMode(afxWinHelp);
     EXPECT_EQ(app.m_pszHelpFilePath, path.replace_extension(L"HLP").native());
-    app.WinHelpInternal(1, HELP_FINDER);
+    app.ShowHelp(1, HELP_FINDER);
     EXPECT_EQ(app.calls, (std::vector<std::string>{"WinHelp 150083 1", "HtmlHelp 150083 15",
                                                    "HtmlHelp 7 2", "WinHelp 1 11"}));
 }
@@ -462,6 +462,20 @@ TEST_F(AppHelp, ThatCannotBeOpenedIsReported) {
 
 // ---- Message boxes
 
+namespace {
+
+/// OK asks first.
+class AskingDialog : public CDialog {
+public:
+    AskingDialog() : CDialog(IDD_INNER) {}
+    void OnOK() override {
+        if (AfxMessageBox(L"Sure?", MB_YESNO) == IDYES)
+            CDialog::OnOK();
+    }
+};
+
+} // namespace
+
 TEST(AppMessageBox, HasTheApplicationsNameAndTheExclamationMark) {
     Application<> application(L"Terrain");
     application.Start();
@@ -513,6 +527,40 @@ TEST(AppMessageBox, HelpContextIsTheResourcesNumberUnlessOneIsGiven) {
     EXPECT_EQ(application.app.promptContext, 6U);
 }
 
+TEST(AppMessageBox, HelpKeyOpensTheHelpOfTheMessage) {
+    Application<HelpedApp> application;
+    application.app.EnableHtmlHelp();
+    application.Start();
+    kit::Script script;
+    const auto askForHelp = [](kit::MessageDialog&) { kit::keyboard::press(VK_F1); };
+    for (int box = 0; box < 3; ++box)
+        script.expectMessage().inspect(askForHelp);
+    script.run([] {
+        AfxMessageBox(IDS_OF_PROGRAM);
+        AfxMessageBox(L"Text", MB_OK, 5);
+        AfxMessageBox(L"Text without help");
+    });
+    EXPECT_EQ(
+        application.app.calls,
+        (std::vector<std::string>{"HtmlHelp " + std::to_string(0x30000 + IDS_OF_PROGRAM) + " 15",
+                                  "HtmlHelp " + std::to_string(0x30000 + 5) + " 15"}));
+}
+
+TEST(AppMessageBox, HelpKeyDoesNotReachTheDialogBelow) {
+    AskingDialog dialog;
+    theApp.helps.clear();
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDOK);
+        d.press(IDCANCEL);
+    });
+    script.expectMessage()
+        .inspect([](kit::MessageDialog&) { kit::keyboard::press(VK_F1); })
+        .answer(IDNO);
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(theApp.helps, std::vector<TestApp::Help>{});
+}
+
 TEST(AppMessageBox, ComesWithoutAnApplicationToo) {
     AFX_MODULE_STATE state(FALSE, &AfxWndProc);
     AFX_MANAGE_STATE(&state);
@@ -520,20 +568,6 @@ TEST(AppMessageBox, ComesWithoutAnApplicationToo) {
     script.expectMessage(L"Error", L"Nobody's message", MB_ICONEXCLAMATION);
     EXPECT_EQ(script.run([] { return AfxMessageBox(L"Nobody's message"); }), IDOK);
 }
-
-namespace {
-
-/// OK asks first.
-class AskingDialog : public CDialog {
-public:
-    AskingDialog() : CDialog(IDD_INNER) {}
-    void OnOK() override {
-        if (AfxMessageBox(L"Sure?", MB_YESNO) == IDYES)
-            CDialog::OnOK();
-    }
-};
-
-} // namespace
 
 TEST(AppMessageBox, BelongsToTheOpenDialog) {
     AskingDialog dialog;

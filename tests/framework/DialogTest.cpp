@@ -2,6 +2,7 @@
 
 #include <kit/kit.h>
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
@@ -477,6 +478,261 @@ TEST(DialogResources, NothingIsLeftAfterManyRuns) {
     for (int i = 0; i < 20; ++i)
         cycle();
     EXPECT_EQ(kit::Handles::now(), before);
+}
+
+// ---- Odd ends
+
+TEST(DialogEnds, AWindowDestroyedUnderItsLoopEndsIt) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) { d.DestroyWindow(); };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.pressLater(IDC_INNER); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), -1);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(DialogEnds, AResultThatIsSetSurvivesTheWindow) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) {
+        d.EndDialog(77);
+        d.DestroyWindow();
+    };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.pressLater(IDC_INNER); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), 77);
+}
+
+TEST(DialogEnds, AQuittingApplicationEndsItAndLearnsOfItToo) {
+    MainWindow main;
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog&) { ::PostQuitMessage(5); };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        d.focusOn(IDC_NAME);
+        d.command(IDC_INNER);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), -1);
+    EXPECT_EQ(dialog.log, (std::vector<std::string>{"inner"})) << "its closing notifies nobody";
+    EXPECT_TRUE(main.IsWindowEnabled());
+    MSG message;
+    ASSERT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 5u);
+}
+
+TEST(DialogEnds, AModelessDialogWhoseInitialisationFailsIsNotMade) {
+    FieldsDialog dialog;
+    dialog.onInit = [](FieldsDialog&) { AfxThrowResourceException(); };
+    EXPECT_FALSE(dialog.Create(IDD_FIELDS));
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(DialogEnds, AModelessRunAfterAModalOneNotifiesAgain) {
+    FieldsDialog dialog;
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    dialog.log.clear();
+    dialog.SetDlgItemText(IDC_NAME, L"x");
+    EXPECT_EQ(dialog.log, (std::vector<std::string>{"change"}));
+    dialog.DestroyWindow();
+}
+
+// ---- The loop
+
+TEST(ModalLoop, OfAPlainWindowGivesEachRunItsOwnResult) {
+    MainWindow main;
+    for (const int result : {3, 4}) {
+        struct Ending : CWnd {
+            int result = 0;
+            LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+                if (message == WM_USER)
+                    EndModalLoop(result);
+                return CWnd::WindowProc(message, wParam, lParam);
+            }
+        };
+        static Ending window;
+        if (!window.m_hWnd) {
+            ASSERT_TRUE(
+                window.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 10, 10, main.m_hWnd, nullptr));
+        }
+        window.result = result;
+        window.PostMessage(WM_USER);
+        EXPECT_EQ(window.RunModalLoop(), result);
+        if (result == 4)
+            window.DestroyWindow();
+    }
+}
+
+class Idle : public MainWindow {
+public:
+    int idles = 0;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        idles += message == WM_ENTERIDLE;
+        return MainWindow::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(ModalLoop, TellsTheOwnerWhenItIsIdleUnlessTheTemplateSaysNo) {
+    for (const auto& [dialogTemplate, told] : {std::pair{IDD_FIELDS, true}, {IDD_NO_IDLE, false}}) {
+        Idle main;
+        FieldsDialog dialog(nullptr, static_cast<UINT>(dialogTemplate));
+        kit::Script script;
+        script.onDialog([](kit::Dialog&) {}); // and a while of nothing
+        script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+        EXPECT_EQ(main.idles > 0, told);
+    }
+}
+
+// Takes Escape for itself.
+class KeyEater : public FieldsDialog {
+public:
+    int keys = 0;
+    BOOL PreTranslateMessage(MSG* message) override {
+        keys += message->message == WM_KEYDOWN;
+        if (message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE)
+            return TRUE;
+        return FieldsDialog::PreTranslateMessage(message);
+    }
+};
+
+TEST(ModalLoop, OffersEachMessageToTheDialogFirst) {
+    KeyEater dialog;
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        ::PostMessage(d.control(IDC_NAME), WM_KEYDOWN, VK_ESCAPE, 0);
+        ::PostMessage(d.control(IDC_NAME), WM_KEYDOWN, VK_TAB, 0);
+    });
+    script.onDialog([&](kit::Dialog& d) {
+        EXPECT_EQ(dialog.keys, 2);
+        EXPECT_EQ(d.focus(), IDC_DOUBLE);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// ---- Default processing
+
+class Closing : public FieldsDialog {
+public:
+    using FieldsDialog::FieldsDialog;
+    std::vector<UINT> defaults;
+    void OnClose() {
+        FieldsDialog inner(nullptr, IDD_INNER);
+        EXPECT_EQ(inner.DoModal(), IDOK);
+        FieldsDialog::OnClose(); // with the message that this handler was called for
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        defaults.push_back(message);
+        return FieldsDialog::DefWindowProc(message, wParam, lParam);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(Closing, FieldsDialog)
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+TEST(DialogDefault, IsOfTheMessageAlsoAfterAnInnerDialog) {
+    Closing dialog;
+    kit::Script script;
+    script.onDialog(kit::titled(L"Fields"), [](kit::Dialog& d) { d.close(); });
+    script.onDialog(kit::titled(L"Inner"), [&](kit::Dialog& d) {
+        d.press(IDOK);
+        dialog.defaults.clear();
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_NE(std::ranges::find(dialog.defaults, UINT{WM_CLOSE}), dialog.defaults.end());
+}
+
+// ---- Owners, asked directly
+
+TEST(SafeOwner, IsTheTopLevelWindowOfTheNamedOne) {
+    MainWindow main;
+    CWnd child;
+    ASSERT_TRUE(child.Create(L"Static", L"", WS_VISIBLE, CRect(0, 0, 50, 20), &main, 7));
+    HWND top = main.m_hWnd;
+    EXPECT_EQ(CWnd::GetSafeOwner(&child, &top), &main);
+    EXPECT_EQ(top, nullptr) << "nothing but the owner is to be disabled";
+}
+
+TEST(SafeOwner, BehindAPopupTheMainWindowIsToBeDisabledToo) {
+    MainWindow main;
+    CWnd popup;
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, L"Popup", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90,
+                               main.m_hWnd, nullptr));
+    for (CWnd* named : {&popup, static_cast<CWnd*>(nullptr)}) {
+        popup.SetActiveWindow();
+        HWND top = nullptr;
+        EXPECT_EQ(CWnd::GetSafeOwner(named, &top), &popup);
+        EXPECT_EQ(top, main.m_hWnd);
+    }
+}
+
+// ---- Help, asked of the windows one after the other
+
+class HelpAsked : public CWnd {
+public:
+    LRESULT answer = FALSE;
+    int asked = 0;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_COMMANDHELP) {
+            ++asked;
+            return answer;
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(DialogHelp, TheControlWithTheFocusIsAskedFirst) {
+    for (const bool answers : {false, true}) {
+        theApp.helps.clear();
+        FieldsDialog dialog;
+        HelpAsked edit;
+        edit.answer = answers;
+        dialog.onInit = [&](FieldsDialog& d) { edit.SubclassDlgItem(IDC_NAME, &d); };
+        dialog.onInner = [](FieldsDialog& d) { d.OnHelp(); };
+        kit::Script script;
+        script.onDialog([](kit::Dialog& d) {
+            d.focusOn(IDC_NAME);
+            d.command(IDC_INNER);
+            d.press(IDOK);
+        });
+        EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+        EXPECT_EQ(edit.asked, 1);
+        EXPECT_EQ(theApp.helps.empty(), answers);
+    }
+}
+
+TEST(DialogHelp, ItsContextCanBeChosenOrNamedOrLeftOut) {
+    FieldsDialog dialog;
+    dialog.onInner = [](FieldsDialog& d) {
+        theApp.helps.clear();
+        EXPECT_EQ(d.SendMessage(WM_HELPHITTEST), 0x20000 + IDD_FIELDS);
+        EXPECT_TRUE(d.SendMessage(WM_COMMANDHELP, 0, 1234));
+        d.SetHelpID(55);
+        EXPECT_TRUE(d.SendMessage(WM_COMMANDHELP));
+        d.SetHelpID(0);
+        EXPECT_FALSE(d.SendMessage(WM_COMMANDHELP));
+    };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.press(IDC_INNER);
+        d.press(IDOK);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+    EXPECT_EQ(theApp.helps, (std::vector<TestApp::Help>{{1234, 15}, {0x20000 + 55, 15}}));
+}
+
+// ---- The template's init block, when it does not fit
+
+TEST(DialogInitBlock, AnEntryThatIsRefusedEndsTheDialogAndOneForNoControlDoesNot) {
+    FieldsDialog refused(nullptr, IDD_INIT_REFUSED);
+    EXPECT_EQ(refused.DoModal(), -1);
+    FieldsDialog forNobody(nullptr, IDD_INIT_FOR_NOBODY);
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return forNobody.DoModal(); }), IDOK);
 }
 
 } // namespace

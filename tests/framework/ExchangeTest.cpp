@@ -232,6 +232,70 @@ TEST(Exchange, AnExceptionEndsTheSilenceToo) {
     EXPECT_EQ(dialog.log, (std::vector<std::string>{"killfocus", "check", "change"}));
 }
 
+TEST(Exchange, AFailureEndsTheSilenceToo) {
+    FieldsDialog dialog;
+    double number = 1;
+    dialog.exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_DOUBLE, number); };
+    dialog.onInner = [&](FieldsDialog& d) {
+        EXPECT_FALSE(d.UpdateData(TRUE));
+        ::SetDlgItemText(d.m_hWnd, IDC_NAME, L"x");
+    };
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) {
+        d.type(IDC_DOUBLE, L"x");
+        d.command(IDC_INNER);
+        d.press(IDCANCEL);
+    });
+    script.expectMessage(L"Framework tests", L"Please enter a number.", MB_ICONEXCLAMATION);
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dialog.log, (std::vector<std::string>{"killfocus", "inner", "change"}));
+}
+
+// A dialog with a list whose notifications are written down.
+class ListDialog : public FieldsDialog {
+public:
+    ListDialog() : FieldsDialog(nullptr, IDD_CHILDREN) {}
+    int changes = 0;
+    int lostFocus = 0;
+    void OnItemChanged(NMHDR*, LRESULT*) { ++changes; }
+    void OnKillFocus(NMHDR*, LRESULT*) { ++lostFocus; }
+    void SelectFirst(UINT state) {
+        LVITEM item = {};
+        item.stateMask = LVIS_SELECTED;
+        item.state = state;
+        SendDlgItemMessage(IDC_LIST, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(ListDialog, FieldsDialog)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LIST, &ListDialog::OnItemChanged)
+    ON_NOTIFY(NM_KILLFOCUS, IDC_LIST, &ListDialog::OnKillFocus)
+END_MESSAGE_MAP()
+
+TEST(Exchange, SilencesNotificationsWithDataToo) {
+    ListDialog dialog;
+    UINT state = 0;
+    dialog.exchange = [&](CDataExchange*) { dialog.SelectFirst(state); };
+    dialog.onInit = [&](FieldsDialog& d) {
+        LVITEM item = {};
+        d.SendDlgItemMessage(IDC_LIST, LVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+    };
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        for (const BOOL save : {TRUE, FALSE}) {
+            state ^= LVIS_SELECTED;
+            EXPECT_TRUE(dialog.UpdateData(save));
+        }
+        EXPECT_EQ(dialog.changes, 0);
+        dialog.SelectFirst(LVIS_SELECTED);
+        EXPECT_EQ(dialog.changes, 1);
+        d.focusOn(IDC_LIST);
+        d.command(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(dialog.lostFocus, 0) << "a focus lost by closing is not the user's doing";
+}
+
 TEST(Exchange, AnEqualTextIsNotSetAgain) {
     FieldsDialog dialog;
     CString name;

@@ -2,13 +2,12 @@
 // its own as if nothing had happened. Each window gets its messages under the state that it was
 // made under.
 #include "TestApp.h"
+#include "kit/kit.h"
 #include "modules/Diary.h"
 #include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
 #include "modules/ProbeWindow.h"
 #include "modules/Program.h"
-
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <stdexcept>
@@ -224,6 +223,20 @@ TEST_F(ModuleLoad, ThreadEndsUnderTheModulesState) {
     EXPECT_EQ(threadsState, AfxGetAppModuleState()) << "a thread begins under the application's";
     EXPECT_EQ(TakeDiary(),
               (std::vector<DiaryEntry>{{"AfxTermThread", state, state->m_pCurrentWinApp}}));
+}
+
+TEST_F(ModuleLoad, ThreadLeavesNothingBehind) {
+    const LoadedModule titled(L"titled.dll");
+    const auto runThreads = [] {
+        for (int i = 0; i < 20; ++i)
+            std::thread([] {
+                EXPECT_EQ(CWnd::FromHandle(::GetDesktopWindow())->m_hWnd, ::GetDesktopWindow());
+            }).join();
+    };
+    runThreads();
+    const kit::HeapUse before = kit::HeapUse::now();
+    runThreads();
+    EXPECT_EQ(kit::HeapUse::now(), before);
 }
 
 TEST_F(ModuleState, IsTheThreadsOwn) {

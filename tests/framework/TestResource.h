@@ -1,9 +1,11 @@
 // Numbers of the framework tests' templates.
-#define IDD_FIELDS       4001
-#define IDD_INNER        4002
-#define IDD_COMBOS       4003
-#define IDD_NO_SUCH_INIT 4004
-#define IDD_CHILDREN     4005
+#define IDD_FIELDS          4001
+#define IDD_INNER           4002
+#define IDD_COMBOS          4003
+#define IDD_INIT_REFUSED    4004
+#define IDD_CHILDREN        4005
+#define IDD_NO_IDLE         4006
+#define IDD_INIT_FOR_NOBODY 4007
 
 #define IDC_NAME    5001
 #define IDC_DOUBLE  5002

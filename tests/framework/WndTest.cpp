@@ -155,6 +155,10 @@ TEST(WndClasses, TheSameArgumentsGiveTheSameClass) {
     const LPCTSTR first = AfxRegisterWndClass(CS_DBLCLKS, arrow);
     EXPECT_EQ(AfxRegisterWndClass(CS_DBLCLKS, arrow), first);
     EXPECT_NE(AfxRegisterWndClass(CS_HREDRAW, arrow), first);
+    const CString name = AfxRegisterWndClass(CS_DBLCLKS); // a text, not an atom
+    WNDCLASS registered = {};
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), name, &registered));
+    EXPECT_EQ(registered.hCursor, arrow);
 }
 
 } // namespace

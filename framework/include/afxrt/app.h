@@ -3,7 +3,7 @@
 
 #include "thread.h"
 
-/// Which help system CWinApp::WinHelpInternal calls.
+/// Which help system CWinApp::ShowHelp calls.
 enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
 /// The one object of a module that stands for the module as a program.
@@ -27,7 +27,7 @@ public:
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
     virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
     /// The one of the two that m_eHelpType names.
-    virtual void WinHelpInternal(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void ShowHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
     void EnableHtmlHelp();
     void SetHelpMode(AFX_HELP_TYPE eHelpType);
     AFX_HELP_TYPE GetHelpMode();
@@ -68,7 +68,7 @@ public:
     BOOL m_bHelpMode = FALSE;
 
     /// Fills the names above from the module's file name; AfxWinInit calls it.
-    void SetCurrentHandles();
+    void TakeModuleNames();
 
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
@@ -76,8 +76,8 @@ protected:
 
 private:
     AFX_MODULE_STATE* m_pState;
-    int m_nWaitCursorCount = 0;
-    HCURSOR m_hcurWaitCursorRestore = nullptr;
+    int m_waits = 0;
+    HCURSOR m_cursorBeforeWait = nullptr;
 };
 
 /// Shows a message, owned by the active window; the icon is the exclamation mark unless nType

@@ -17,17 +17,19 @@ public:
     HWND PrepareCtrl(int nIDC);
     /// The same for an edit, whose text Fail selects.
     HWND PrepareEditCtrl(int nIDC);
-    /// The control that follows the current one in the order of the dialog, or null.
-    HWND NextCtrl(HWND control);
     /// Ends an exchange whose user has been told what is wrong: puts the focus on the current
     /// control, selects an edit's text, and throws CUserException.
     [[noreturn]] void Fail();
 
 private:
-    HWND Prepare(int nIDC, bool edit);
+    friend AFXRT_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 
-    HWND m_hWndLastControl = nullptr;
-    bool m_bEditLastControl = false;
+    HWND Prepare(int nIDC, bool edit);
+    /// The control that follows this one in the order of the dialog, or null.
+    HWND NextCtrl(HWND control);
+
+    HWND m_control = nullptr;
+    bool m_controlIsEdit = false;
 };
 
 class CComboBox;
@@ -75,6 +77,12 @@ AFXRT_API void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, i
 AFXRT_API void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
 AFXRT_API void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
 AFXRT_API void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
+AFXRT_API void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
+                                         LONGLONG maxVal);
+AFXRT_API void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
+                                          ULONGLONG maxVal);
+AFXRT_API void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
+                                         unsigned maxVal);
 AFXRT_API void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal,
                                       float maxVal);
 AFXRT_API void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal,

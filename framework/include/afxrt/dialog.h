@@ -50,8 +50,8 @@ protected:
     virtual void OnOK();
     virtual void OnCancel();
 
-    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
-    LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
+    LRESULT AnswerInitDialog(WPARAM wParam, LPARAM lParam);
+    LRESULT AnswerSetFont(WPARAM wParam, LPARAM lParam);
     LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
 
@@ -63,7 +63,9 @@ protected:
 
 private:
     bool CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance);
+    bool CreateModeless(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance);
     void TakeTemplateName(LPCTSTR name);
 
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
+    bool m_initialised = false; // OnInitDialog has returned
 };

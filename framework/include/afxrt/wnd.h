@@ -19,8 +19,9 @@ class CRgn;
 class CScrollBar;
 
 namespace afx_internal {
+class ExchangeLock;
 struct Creation;
-}
+} // namespace afx_internal
 
 // RunModalLoop
 #define MLF_NOIDLEMSG  0x0001 // no WM_ENTERIDLE to the parent
@@ -33,7 +34,7 @@ struct Creation;
 #define WM_IDLEUPDATECMDUI  0x0363
 #define WM_COMMANDHELP      0x0365 // lParam: the context so far, 0 for none; TRUE when help was given
 #define WM_HELPHITTEST      0x0366 // lParam: a point; the context of what is there
-#define WM_KICKIDLE         0x036A // wParam: MSGF_DIALOGBOX, lParam: how often so far
+#define WM_KICKIDLE         0x036A // a modal loop has nothing to do; wParam: MSGF_DIALOGBOX
 
 // Where the help contexts of each kind of thing begin.
 #define HID_BASE_COMMAND  0x00010000UL
@@ -226,7 +227,7 @@ public:
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* SetParent(CWnd* pWndNewParent);
     CWnd* GetOwner() const;
-    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd ? pOwnerWnd->m_hWnd : nullptr; }
+    void SetOwner(CWnd* pOwnerWnd) { m_chosenOwner = pOwnerWnd ? pOwnerWnd->m_hWnd : nullptr; }
     CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
     CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const { return GetWindow(nFlag); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
@@ -348,16 +349,21 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     /// The translation of keys that a dialog box makes (IsDialogMessage).
-    BOOL PreTranslateInput(LPMSG lpMsg);
-
-    /// Ends a modal loop that runs, or will run next, with the result.
-    int m_nModalResult = 0;
-    /// Whether the result of a modal run is set: no control notification is delivered then.
-    bool m_bModalEnded = false;
-    /// Whether a modal loop runs in this window, or is about to.
-    bool m_bModal = false;
+    BOOL TranslateDialogKeys(LPMSG lpMsg);
 
 private:
+    friend class CDialog;
+
+    friend class afx_internal::ExchangeLock;
+
+    /// From here on EndModalLoop counts, until the loop's end.
+    void BeginModal();
+
+    int m_exchanges = 0; // as many of this window run, one inside the other
+
+    int m_nModalResult = 0;
+    bool m_bModalEnded = false; // the result is set: no control notification is delivered
+    bool m_bModal = false;      // a modal loop runs in this window, or is about to
     friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
     friend class CDataExchange;
     friend struct afx_internal::Creation;
@@ -367,8 +373,8 @@ private:
                        LRESULT* pResult);
     void AttachAndSubclass(HWND hWnd);
 
-    WNDPROC m_pfnSuper = nullptr;
-    HWND m_hWndOwner = nullptr;
+    WNDPROC m_ownProcedure = nullptr;
+    HWND m_chosenOwner = nullptr;
     afx_internal::ExchangedControls m_exchangedControls;
 };
 

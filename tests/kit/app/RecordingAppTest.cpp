@@ -27,7 +27,7 @@ TEST(RecordingApp, IsTheApplicationOfTheProgram) {
 
 TEST(RecordingApp, RemembersRequestsForHelp) {
     AfxGetApp()->HtmlHelp(19013, 15);
-    AfxGetApp()->WinHelpInternal(0x20000 + 20093);
+    AfxGetApp()->ShowHelp(0x20000 + 20093);
     const std::vector<HelpRequest> requests = kit::app.takeHelpRequests();
     ASSERT_EQ(requests.size(), 2U);
     EXPECT_EQ(requests[0], (HelpRequest{19013, 15}));

@@ -379,6 +379,46 @@ TEST(ExchangeOfButtons, ARadioIndexOutOfRangeChecksNothingAndComesBackAsNone) {
     }
 }
 
+// Counts a message on its way to a control.
+class Counted : public CWnd {
+public:
+    explicit Counted(UINT message) : m_message(message) {}
+    int count = 0;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        count += message == m_message;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    UINT m_message;
+};
+
+TEST(ExchangeOfButtons, AnEqualStateIsNotSetAgain) {
+    FieldsDialog dialog;
+    int flag = 1;
+    int index = 1;
+    dialog.exchange = [&](CDataExchange* pDX) {
+        DDX_Check(pDX, IDC_CHECK, flag);
+        DDX_Radio(pDX, IDC_RADIO_A, index);
+    };
+    Counted check(BM_SETCHECK);
+    Counted radio(BM_SETCHECK);
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& d) {
+        check.SubclassDlgItem(IDC_CHECK, &dialog);
+        radio.SubclassDlgItem(IDC_RADIO_B, &dialog);
+        EXPECT_TRUE(dialog.UpdateData(FALSE));
+        EXPECT_EQ(check.count + radio.count, 0);
+        flag = 0;
+        index = 0;
+        EXPECT_TRUE(dialog.UpdateData(FALSE));
+        EXPECT_EQ(check.count, 1);
+        EXPECT_EQ(radio.count, 1);
+        d.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+}
+
 TEST(ExchangeOfBoxes, ACombosIndexIsItsSelectionAndMinusOneWithoutOne) {
     for (const auto& [record, expected] : {std::pair{1, 1}, {-1, -1}, {9, -1}}) {
         FieldsDialog dialog(nullptr, IDD_COMBOS);

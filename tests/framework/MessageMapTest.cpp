@@ -160,4 +160,190 @@ TEST_F(MessageMap, OnCmdMsgTellsWhoWouldHandleACommand) {
     EXPECT_EQ(m_window.log, (Log{"base two"}));
 }
 
+// ---- Each kind of message, taken apart
+
+// Writes down what its handlers are called with.
+class Apart : public CWnd {
+public:
+    std::string seen;
+    HWND other = nullptr; // a window that messages name
+
+    BOOL CreateTopLevel() {
+        if (!CreateEx(0, nullptr, L"", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100, nullptr, nullptr))
+            return FALSE;
+        other =
+            ::CreateWindow(L"Static", L"", WS_CHILD, 0, 0, 1, 1, m_hWnd, nullptr, nullptr, nullptr);
+        return other != nullptr;
+    }
+
+    template <class... Args>
+    void See(const char* what, Args... args) {
+        seen = what;
+        ((seen += " " + std::to_string(args)), ...);
+    }
+    bool IsOther(const CWnd* window) const { return window && window->m_hWnd == other; }
+
+    afx_msg void OnShowWindow(BOOL show, UINT status) { See("show", show, status); }
+    afx_msg void OnEnable(BOOL enable) { See("enable", enable); }
+    afx_msg void OnMove(int x, int y) { See("move", x, y); }
+    afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags) { See("key", key, repeats, flags); }
+    afx_msg void OnChar(UINT key, UINT repeats, UINT flags) { See("char", key, repeats, flags); }
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint at) {
+        See("wheel", flags, delta, at.x, at.y);
+        return TRUE;
+    }
+    afx_msg void OnLButtonDown(UINT flags, CPoint at) { See("down", flags, at.x, at.y); }
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar) {
+        See("scroll", code, position, IsOther(bar));
+    }
+    afx_msg void OnActivate(UINT state, CWnd* window, BOOL minimized) {
+        See("activate", state, IsOther(window), minimized);
+    }
+    afx_msg void OnSetFocus(CWnd* window) { See("focus", IsOther(window)); }
+    afx_msg void OnCaptureChanged(CWnd* window) { See("capture", IsOther(window)); }
+    afx_msg void OnContextMenu(CWnd* window, CPoint at) {
+        See("menu", IsOther(window), at.x, at.y);
+    }
+    afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message) {
+        See("cursor", IsOther(window), hit, message);
+        return TRUE;
+    }
+    afx_msg LRESULT OnNcHitTest(CPoint at) {
+        See("hit", at.x, at.y);
+        return HTCAPTION;
+    }
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
+        See("colour", dc->GetSafeHdc() == reinterpret_cast<HDC>(6), IsOther(window), kind);
+        return reinterpret_cast<HBRUSH>(7);
+    }
+    afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item) { See("draw", id, item->itemID); }
+    afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item) {
+        See("measure", id, item->itemID);
+    }
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* info) { See("limits", info->ptMinTrackSize.x); }
+    afx_msg void OnWindowPosChanged(WINDOWPOS* place) { See("place", place->cx); }
+    afx_msg void OnSysCommand(UINT id, LPARAM at) { See("system", id, at); }
+    afx_msg void OnSettingChange(UINT flags, LPCTSTR section) {
+        See("setting", flags, section[0] == L'x');
+    }
+    afx_msg void OnEnterIdle(UINT why, CWnd* window) { See("idle", why, IsOther(window)); }
+    afx_msg UINT OnGetDlgCode() {
+        See("code");
+        return DLGC_WANTTAB;
+    }
+    afx_msg BOOL OnQueryEndSession() {
+        See("may end");
+        return FALSE;
+    }
+    BOOL OnMaybe(UINT id) {
+        See("maybe", id);
+        return id == 20;
+    }
+    void OnClicks(UINT id) { See("clicks", id); }
+    void OnNotifyOne(UINT id, NMHDR* header, LRESULT* result) {
+        See("notify", id, header->code == static_cast<UINT>(NM_CLICK));
+        *result = 9;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Apart, CWnd)
+    ON_WM_SHOWWINDOW()
+    ON_WM_ENABLE()
+    ON_WM_MOVE()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_HSCROLL()
+    ON_WM_ACTIVATE()
+    ON_WM_SETFOCUS()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CONTEXTMENU()
+    ON_WM_SETCURSOR()
+    ON_WM_NCHITTEST()
+    ON_WM_CTLCOLOR()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_WINDOWPOSCHANGED()
+    ON_WM_SYSCOMMAND()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_ENTERIDLE()
+    ON_WM_GETDLGCODE()
+    ON_WM_QUERYENDSESSION()
+    ON_COMMAND_EX(20, &Apart::OnMaybe)
+    ON_COMMAND_EX(21, &Apart::OnMaybe)
+    ON_CONTROL_RANGE(BN_CLICKED, 30, 32, &Apart::OnClicks)
+    ON_NOTIFY_RANGE(NM_CLICK, 0, 5, &Apart::OnNotifyOne)
+END_MESSAGE_MAP()
+
+TEST(MessageKinds, ReachTheirHandlersWithTheirParts) {
+    Apart window;
+    ASSERT_TRUE(window.CreateTopLevel());
+    const auto other = reinterpret_cast<LPARAM>(window.other);
+    DRAWITEMSTRUCT draw = {};
+    draw.itemID = 4;
+    MEASUREITEMSTRUCT measure = {};
+    measure.itemID = 5;
+    MINMAXINFO limits = {};
+    limits.ptMinTrackSize.x = 6;
+    WINDOWPOS place = {};
+    place.cx = 7;
+    const auto at = [](auto& value) { return reinterpret_cast<LPARAM>(&value); };
+    struct Row {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+        const char* seen;
+        LRESULT result;
+    };
+    const LPARAM point = MAKELPARAM(11, static_cast<WORD>(-12));
+    const Row rows[] = {
+        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3", 0},
+        {WM_ENABLE, TRUE, 0, "enable 1", 0},
+        {WM_MOVE, 0, point, "move 11 -12", 0},
+        {WM_KEYDOWN, VK_F2, MAKELPARAM(2, 3), "key 113 2 3", 0},
+        {WM_CHAR, 'a', MAKELPARAM(4, 5), "char 97 4 5", 0},
+        {WM_MOUSEWHEEL, MAKEWPARAM(8, static_cast<WORD>(-120)), point, "wheel 8 -120 11 -12", TRUE},
+        {WM_LBUTTONDOWN, 1, point, "down 1 11 -12", 0},
+        {WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 6), other, "scroll 4 6 1", 0},
+        {WM_ACTIVATE, MAKEWPARAM(2, 1), other, "activate 2 1 1", 0},
+        {WM_SETFOCUS, static_cast<WPARAM>(other), 0, "focus 1", 0},
+        {WM_CAPTURECHANGED, 0, other, "capture 1", 0},
+        {WM_CONTEXTMENU, static_cast<WPARAM>(other), point, "menu 1 11 -12", 0},
+        {WM_SETCURSOR, static_cast<WPARAM>(other), MAKELPARAM(1, 2), "cursor 1 1 2", TRUE},
+        {WM_NCHITTEST, 0, point, "hit 11 -12", HTCAPTION},
+        {WM_CTLCOLORSTATIC, 6, other, "colour 1 1 6", 7},
+        {WM_CTLCOLOREDIT, 6, other, "colour 1 1 1", 7},
+        {WM_DRAWITEM, 3, at(draw), "draw 3 4", TRUE},
+        {WM_MEASUREITEM, 3, at(measure), "measure 3 5", TRUE},
+        {WM_GETMINMAXINFO, 0, at(limits), "limits 6", 0},
+        {WM_WINDOWPOSCHANGED, 0, at(place), "place 7", 0},
+        {WM_SYSCOMMAND, 0x1230, 13, "system 4656 13", 0},
+        {WM_SETTINGCHANGE, 14, reinterpret_cast<LPARAM>(L"x"), "setting 14 1", 0},
+        {WM_ENTERIDLE, MSGF_MENU, other, "idle 2 1", 0},
+        {WM_GETDLGCODE, 0, 0, "code", DLGC_WANTTAB},
+        {WM_QUERYENDSESSION, 0, 0, "may end", FALSE},
+        {WM_COMMAND, 20, 0, "maybe 20", 0},
+        {WM_COMMAND, 21, 0, "maybe 21", 0},
+        {WM_COMMAND, MAKEWPARAM(31, BN_CLICKED), other, "clicks 31", 0},
+    };
+    for (const Row& row : rows) {
+        window.seen.clear();
+        EXPECT_EQ(window.SendMessage(row.message, row.wParam, row.lParam), row.result) << row.seen;
+        EXPECT_EQ(window.seen, row.seen);
+    }
+    NMHDR header = {window.other, 0, static_cast<UINT>(NM_CLICK)};
+    EXPECT_EQ(window.SendMessage(WM_NOTIFY, 0, at(header)), 9);
+    EXPECT_EQ(window.seen, "notify 0 1");
+}
+
+TEST(MessageKinds, AnExtendedHandlerMaySayThatItDidNothing) {
+    Apart window;
+    ASSERT_TRUE(window.CreateTopLevel());
+    EXPECT_TRUE(window.OnCmdMsg(20, CN_COMMAND, nullptr, nullptr));
+    EXPECT_FALSE(window.OnCmdMsg(21, CN_COMMAND, nullptr, nullptr));
+}
+
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <afxwin.h>
 
+#include <stdexcept>
+#include <string_view>
+
 namespace {
 
 class Witness {
@@ -19,7 +22,14 @@ class ProbeApp : public CWinApp {
 public:
     BOOL InitInstance() override {
         Note("InitInstance");
-        return ::GetEnvironmentVariable(L"PROBE_REFUSES", nullptr, 0) == 0;
+        wchar_t refusal[20] = L"";
+        ::GetEnvironmentVariable(L"PROBE_REFUSES", refusal, 20);
+        const std::wstring_view how = refusal;
+        if (how == L"exception")
+            AfxThrowUserException();
+        if (how == L"other exception")
+            throw std::runtime_error("the module does not want to start");
+        return how.empty();
     }
     int ExitInstance() override {
         Note("ExitInstance");

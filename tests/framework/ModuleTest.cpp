@@ -125,8 +125,8 @@ namespace {
 struct Failure {
     const char* name;
     StartFault fault;
-    bool refuses;   // InitInstance returns FALSE
-    Names expected; // between the making of the static objects and their end
+    const wchar_t* refusal; // how InitInstance refuses: it returns FALSE, or throws
+    Names expected;         // between the making of the static objects and their end
 };
 
 void PrintTo(const Failure& failure, std::ostream* out) {
@@ -142,29 +142,29 @@ protected:
     }
     static void Arm() {
         afx_internal::ArmStartFault(GetParam().fault);
-        if (GetParam().refuses)
-            ::SetEnvironmentVariable(L"PROBE_REFUSES", L"1");
+        ::SetEnvironmentVariable(L"PROBE_REFUSES", GetParam().refusal);
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(AtEachStep, FailingLoad,
-                         testing::Values(Failure{"AfxWinInit",
-                                                 StartFault::winInit,
-                                                 false,
-                                                 {"AfxCoreInitModule", "AfxWinInit", "AfxWinTerm"}},
-                                         Failure{"InitInstance",
-                                                 StartFault::none,
-                                                 true,
-                                                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance",
-                                                  "ExitInstance", "AfxWinTerm"}},
-                                         Failure{"ChainEntry",
-                                                 StartFault::chainEntry,
-                                                 false,
-                                                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance",
-                                                  "AfxInitExtensionModule", "CDynLinkLibrary",
-                                                  "exception deleted", "ExitInstance", "AfxWinTerm",
-                                                  "AfxTermExtensionModule"}}),
-                         [](const auto& info) { return info.param.name; });
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(
+    AtEachStep, FailingLoad,
+    testing::Values(
+        Failure{"AfxWinInit", StartFault::winInit, nullptr,
+                {"AfxCoreInitModule", "AfxWinInit", "AfxWinTerm"}},
+        Failure{"InitInstance", StartFault::none, L"FALSE",
+                {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "ExitInstance", "AfxWinTerm"}},
+        Failure{"InitInstanceByException", StartFault::none, L"exception",
+                {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "exception deleted",
+                 "ExitInstance", "AfxWinTerm"}},
+        Failure{"InitInstanceByOtherException", StartFault::none, L"other exception",
+                {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "ExitInstance", "AfxWinTerm"}},
+        Failure{"ChainEntry", StartFault::chainEntry, nullptr,
+                {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "AfxInitExtensionModule",
+                 "CDynLinkLibrary", "exception deleted", "ExitInstance", "AfxWinTerm",
+                 "AfxTermExtensionModule"}}),
+    [](const auto& info) { return info.param.name; });
+// clang-format on
 
 } // namespace
 

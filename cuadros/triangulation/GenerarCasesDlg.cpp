@@ -67,7 +67,7 @@ void CGenerarCasesDlg::OnLbnSelchangeListaHojas() {
 void CGenerarCasesDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
     HabilitaAceptar();
-    CDialog::OnDropFiles(hDropInfo);
+    CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
 }
 
 void CGenerarCasesDlg::HabilitaAceptar() {
@@ -75,9 +75,10 @@ void CGenerarCasesDlg::HabilitaAceptar() {
 }
 
 void CGenerarCasesDlg::OnOK() {
+    // Kept: a number that is refused here does not stop the list from reaching the host.
     UpdateData(TRUE);
     if (m_ListaHojas.GetCount() == 0) {
-        // Kept: this text is not in the language file.
+        // Kept: neither the text nor the caption is in the language file.
         MessageBox(L"No ha seleccionado ning\u00FAn archivo", L"Error", MB_ICONERROR);
         return;
     }

@@ -17,7 +17,7 @@ void SumaSoltados(CListBox& lista, HDROP soltados) {
     constexpr UINT cuenta = 0xFFFFFFFF;
     const UINT cuantos = DragQueryFile(soltados, cuenta, nullptr, 0);
     for (UINT i = 0; i < cuantos; ++i) {
-        TCHAR ruta[260] = L"";
+        TCHAR ruta[260] = L""; // kept: a longer path is cut
         DragQueryFile(soltados, i, ruta, 260);
         lista.AddString(ruta);
     }

@@ -73,7 +73,7 @@ void CTriangulacion3DDiscoDlg::OnSelchangeListaHojas() {
 void CTriangulacion3DDiscoDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
     HabilitaAceptar();
-    CDialog::OnDropFiles(hDropInfo);
+    CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
 }
 
 void CTriangulacion3DDiscoDlg::HabilitaAceptar() {
@@ -81,8 +81,10 @@ void CTriangulacion3DDiscoDlg::HabilitaAceptar() {
 }
 
 void CTriangulacion3DDiscoDlg::OnOK() {
+    // Kept: a number that is refused here does not stop the list from reaching the host.
     UpdateData(TRUE);
     if (m_ListaHojas.GetCount() == 0) {
+        // Kept: the caption is not that of the other messages.
         MessageBox(Cuadros::Texto(IDS_SIN_FICHEROS), L"Error", MB_ICONERROR);
         return;
     }

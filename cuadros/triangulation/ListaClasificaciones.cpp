@@ -32,8 +32,8 @@ void CompletaClasificacion(CListCtrl& lista, int fila,
     lista.SetItemText(fila, 2, Entero(clasificacion.GetPuntos()));
 }
 
-void AgregaSeleccion(const CListCtrl& lista, unsigned int filas, std::vector<int>& seleccion) {
-    RecorreSeleccion(lista, filas,
+void AgregaSeleccion(const CListCtrl& lista, std::vector<int>& seleccion) {
+    RecorreSeleccion(lista, static_cast<unsigned int>(lista.GetItemCount()),
                      [&](unsigned int i) { seleccion.push_back(static_cast<int>(i)); });
 }
 

@@ -21,6 +21,6 @@ void CompletaClasificacion(CListCtrl& lista, int fila,
                            const Cotana::CInfoClasificacion& clasificacion);
 
 /// Appends the indices of the selected rows, in increasing order.
-void AgregaSeleccion(const CListCtrl& lista, unsigned int filas, std::vector<int>& seleccion);
+void AgregaSeleccion(const CListCtrl& lista, std::vector<int>& seleccion);
 
 } // namespace Cuadros

@@ -91,8 +91,7 @@ void CTriangulacion2DDlg::OnBnClickedMfcbuttonNone() {
 void CTriangulacion2DDlg::OnOK() {
     UpdateData(TRUE);
     // Kept: the vector is not emptied first.
-    Cuadros::AgregaSeleccion(m_ListaClasificaciones,
-                             static_cast<unsigned int>(m_Clasificaciones.size()), m_Seleccion);
+    Cuadros::AgregaSeleccion(m_ListaClasificaciones, m_Seleccion);
     // Kept: a text that is no number is 0, without a message.
     *m_pValor = _wtof(m_TextoValor);
     CDialog::OnOK();

@@ -18,7 +18,7 @@ class CUADROS_API CTriangulacion2DDlg : public CDialog {
 
 public:
     /// @param clasificaciones what there is to choose from; copied, never written.
-    /// @param valor           shown with three decimals, written on OK.
+    /// @param valor           shown with three decimals, written on OK: 0 for what is no number.
     /// @param nombre          written on OK.
     /// @param activarCasilla  whether the user may use the check box; it then starts ticked.
     /// @param padre           the owner; null takes the host's main window.
@@ -54,7 +54,8 @@ protected:
     double* m_pValor;
 
 public:
-    /// After IDOK: the indices of the chosen classifications, in increasing order.
+    /// After IDOK: the indices of the chosen classifications, in increasing order, behind what it
+    /// held before.
     std::vector<int> m_Seleccion;
     /// After IDOK: whether the check box was ticked, 0 or 1.
     int m_Casilla = 0;

@@ -91,8 +91,7 @@ void CTriangulacion3DDlg::OnOK() {
     UpdateData(TRUE);
     // Kept: the vector is not emptied first. A number that does not convert keeps the dialog open
     // below, and the next OK appends again.
-    Cuadros::AgregaSeleccion(m_ListaClasificaciones,
-                             static_cast<unsigned int>(m_Clasificaciones.size()), m_Seleccion);
+    Cuadros::AgregaSeleccion(m_ListaClasificaciones, m_Seleccion);
     CDialog::OnOK();
 }
 

@@ -15,6 +15,7 @@ CSuavizarTINDlg::~CSuavizarTINDlg() = default;
 
 void CSuavizarTINDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
+    // Kept: the number of times comes first, so that a bad one leaves the click on the box unread.
     // clang-format off
     DDX_Text (pDX, IDC_SUAVIZAR_TIN_ITERACIONES, m_pData->m_Iteraciones);
     DDX_Check(pDX, IDC_SUAVIZAR_TIN_ITERAR,      m_pData->m_Iterar);

@@ -184,6 +184,7 @@ TYPED_TEST(ListaClasificaciones, CancelLeavesNoSelectionAndTheVariablesOfTheHost
     });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_TRUE(dlg->m_Seleccion.empty());
+    EXPECT_EQ(dlg->m_Casilla, 1);
     EXPECT_EQ(this->valor, 0.1 + 0.2);
     EXPECT_EQ(this->nombre, L"North slope");
     EXPECT_EQ(this->entero, 2);

@@ -1,4 +1,11 @@
 // All dialogs of the library.
 #pragma once
 
+#include "cuadros/triangulation/GenerarCasesDlg.h"
+#include "cuadros/triangulation/LimpiarRelieveDlg.h"
+#include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"
+#include "cuadros/triangulation/SuavizarTINDlg.h"
+#include "cuadros/triangulation/Triangulacion2DDlg.h"
+#include "cuadros/triangulation/Triangulacion3DDiscoDlg.h"
+#include "cuadros/triangulation/Triangulacion3DDlg.h"
 #include "cuadros/triangulation/TriangulacionDlg.h"

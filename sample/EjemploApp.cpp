@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "sample/ClassificationFile.h"
 #include "sample/CodeTableFile.h"
 #include "sample/Conversacion.h"
 #include "sample/LanzadorDlg.h"
@@ -32,12 +33,10 @@ BOOL CEjemploApp::InitInstance() {
     CAplicacion::InitInstance();
     EnableHtmlHelp(); // F1 comes to HtmlHelp, as the Help buttons do
 
-    LineaOrdenes linea = LineaDelPrograma();
-    if (linea.ficheroCodigos.IsEmpty())
-        linea.ficheroCodigos = BuscaHaciaArriba(L"sample\\data\\survey-codes.txt");
+    const LineaOrdenes linea = LineaDelPrograma();
     CString error = linea.error;
     if (error.IsEmpty())
-        error = ReadCodeTableFile(linea.ficheroCodigos, m_Terreno.codigos);
+        error = LeeTerreno(linea.ficheroCodigos);
     if (!error.IsEmpty()) {
         if (!Escribe(error + L"\n", true))
             AfxMessageBox(error, MB_ICONERROR);
@@ -55,6 +54,17 @@ BOOL CEjemploApp::InitInstance() {
         m_CodigoSalida = Recorre(*this, m_Terreno, linea.carpetaRecorrido) ? 0 : 1;
     }
     return FALSE; // the program was the dialog, or the tour: there is no message loop to run
+}
+
+CString CEjemploApp::LeeTerreno(const CString& ficheroCodigos) {
+    const CString carpeta = BuscaHaciaArriba(L"sample\\data");
+    m_Terreno.carpetaNubes = carpeta + L"\\clouds";
+    const CString error = ReadCodeTableFile(
+        ficheroCodigos.IsEmpty() ? carpeta + L"\\survey-codes.txt" : ficheroCodigos,
+        m_Terreno.codigos);
+    if (!error.IsEmpty())
+        return error;
+    return ReadClassificationFile(carpeta + L"\\classifications.txt", m_Terreno.clasificaciones);
 }
 
 int CEjemploApp::ExitInstance() {
@@ -82,6 +92,13 @@ void CEjemploApp::HtmlHelp(DWORD_PTR dwData, UINT) {
             AfxMessageBox(L"The page of this dialog:\n" + pagina, MB_ICONINFORMATION);
         return;
     }
+}
+
+BOOL CEjemploApp::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
+                              CDocTemplate** plantilla, int clase, void* reservado) {
+    // The system's dialog shows the current folder first.
+    SetCurrentDirectoryW(m_Terreno.carpetaNubes);
+    return CAplicacion::PideFichero(nombre, titulo, opciones, abrir, plantilla, clase, reservado);
 }
 
 std::vector<DWORD_PTR> CEjemploApp::RecogeAyudas() {

@@ -16,10 +16,17 @@ public:
     /// Opens the dialog's page in the browser; on a tour, notes the request only.
     void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override;
 
+    /// The system's dialog, which opens in the folder of the point clouds.
+    BOOL PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
+                     CDocTemplate** plantilla, int clase, void* reservado) override;
+
     /// The help contexts for which the dialogs have asked since the last call.
     std::vector<DWORD_PTR> RecogeAyudas();
 
 private:
+    /// Reads the survey; what is wrong with a file, or empty.
+    CString LeeTerreno(const CString& ficheroCodigos);
+
     Terreno m_Terreno;
     std::vector<DWORD_PTR> m_Ayudas;
     bool m_DeRecorrido = false;

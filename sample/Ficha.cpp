@@ -5,6 +5,23 @@
 #include <algorithm>
 
 using Cotana::CDigiTab;
+using Cotana::CInfoClasificacion;
+
+namespace {
+
+/// How many there are, and the first of them.
+template <class Nombre>
+CString Lista(size_t cuantos, const Nombre& nombre) {
+    constexpr size_t Mostrados = 5;
+    CString texto = Valor(static_cast<int>(cuantos));
+    for (size_t i = 0; i < std::min(cuantos, Mostrados); ++i)
+        texto += (i == 0 ? L": " : L", ") + nombre(i);
+    if (cuantos > Mostrados)
+        texto += L", ...";
+    return texto;
+}
+
+} // namespace
 
 CString Valor(double numero) {
     CString texto;
@@ -23,13 +40,22 @@ CString Valor(const CString& texto) {
 }
 
 CString Valor(const CDigiTab& tabla) {
-    constexpr unsigned int Mostrados = 5;
-    CString texto = Valor(static_cast<int>(tabla.Cantidad()));
-    for (unsigned int i = 0; i < std::min(tabla.Cantidad(), Mostrados); ++i)
-        texto += (i == 0 ? L": " : L", ") + tabla[i].GetCodigo();
-    if (tabla.Cantidad() > Mostrados)
-        texto += L", ...";
-    return texto;
+    return Lista(tabla.Cantidad(),
+                 [&](size_t i) { return tabla[static_cast<unsigned int>(i)].GetCodigo(); });
+}
+
+CString Valor(const std::vector<int>& numeros) {
+    return Lista(numeros.size(), [&](size_t i) { return Valor(numeros[i]); });
+}
+
+CString Valor(const std::vector<CInfoClasificacion>& clasificaciones) {
+    return Lista(clasificaciones.size(),
+                 [&](size_t i) { return Valor(int{clasificaciones[i].GetClasificacion()}); });
+}
+
+CString Valor(const std::vector<CString>& ficheros) {
+    return Lista(ficheros.size(),
+                 [&](size_t i) { return ficheros[i].Mid(ficheros[i].ReverseFind(L'\\') + 1); });
 }
 
 CString AntesYDespues(const Ficha& antes, const Ficha& despues) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cotana/entidad/DigiTab.h"
+#include "cotana/entidad/InfoClasificacion.h"
 
 /// One field of a record, for a person to read.
 struct Campo {
@@ -23,6 +24,10 @@ CString Valor(int numero);
 CString Valor(const CString& texto);
 /// How many codes a table has, and the first of them: "63: CP, CP-T, BM, GCP, GND, ...".
 CString Valor(const Cotana::CDigiTab& tabla);
+/// The same of numbers, of classifications by their number, and of files by their name.
+CString Valor(const std::vector<int>& numeros);
+CString Valor(const std::vector<Cotana::CInfoClasificacion>& clasificaciones);
+CString Valor(const std::vector<CString>& ficheros);
 
 /// The record before and after a conversation, a field per line; a changed one is marked with *.
 /// The two have the same fields.

@@ -4,6 +4,7 @@
 
 using Cotana::CDigiTab;
 using Cotana::CElementoDigiTab;
+using Cotana::CInfoClasificacion;
 
 TEST(Ficha, ShowsNumbersInTheirShortestForm) {
     EXPECT_EQ(Valor(0.1), L"0.1");
@@ -24,6 +25,20 @@ TEST(Ficha, ShowsTheFirstFiveCodesOfATable) {
     EXPECT_EQ(Valor(tabla), L"5: A, B, C, D, E");
     tabla.Inserta(CElementoDigiTab(L"F"), true);
     EXPECT_EQ(Valor(tabla), L"6: A, B, C, D, E, ...");
+}
+
+TEST(Ficha, ShowsTheFirstFiveOfEveryList) {
+    EXPECT_EQ(Valor(std::vector<int>()), L"0");
+    EXPECT_EQ(Valor(std::vector<int>{3, -1}), L"2: 3, -1");
+    EXPECT_EQ(Valor(std::vector<int>{1, 2, 3, 4, 5, 6}), L"6: 1, 2, 3, 4, 5, ...");
+}
+
+TEST(Ficha, ShowsClassificationsByTheirNumber) {
+    EXPECT_EQ(Valor(std::vector{CInfoClasificacion(2), CInfoClasificacion(255)}), L"2: 2, 255");
+}
+
+TEST(Ficha, ShowsFilesWithoutTheirFolder) {
+    EXPECT_EQ(Valor(std::vector<CString>{L"C:\\survey\\a b.xyz", L"c.xyz"}), L"2: a b.xyz, c.xyz");
 }
 
 TEST(Ficha, MarksWhatHasChanged) {

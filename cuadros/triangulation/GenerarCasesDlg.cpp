@@ -1,0 +1,89 @@
+#include "cuadros/triangulation/GenerarCasesDlg.h"
+
+#include "cuadros/frame/Controles.h"
+#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/PideFichero.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/TriangulationIds.h"
+#include "cuadros/triangulation/ListaHojas.h"
+
+namespace Cotana {
+
+IMPLEMENT_DYNAMIC(CGenerarCasesDlg, CDialog)
+
+CGenerarCasesDlg::CGenerarCasesDlg(std::vector<CString>& ficheros, CDocTemplate* plantilla,
+                                   double& valor, CWnd* padre)
+    : CDialog(IDD_GENERAR_CASES, padre), m_pValor(&valor), m_pFicheros(&ficheros),
+      m_pPlantilla(plantilla) {}
+
+CGenerarCasesDlg::~CGenerarCasesDlg() = default;
+
+void CGenerarCasesDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    // clang-format off
+    DDX_Text   (pDX, IDC_GENERAR_CASES_VALOR, *m_pValor);
+    DDX_Control(pDX, IDC_GENERAR_CASES_HOJAS, m_ListaHojas);
+    // clang-format on
+}
+
+BEGIN_MESSAGE_MAP(CGenerarCasesDlg, CDialog)
+    ON_BN_CLICKED(IDC_GENERAR_CASES_SUMAR, &CGenerarCasesDlg::OnBnClickedSumarArchivos)
+    ON_BN_CLICKED(IDC_GENERAR_CASES_RESTAR, &CGenerarCasesDlg::OnBnClickedRestarArchivos)
+    ON_LBN_SELCHANGE(IDC_GENERAR_CASES_HOJAS, &CGenerarCasesDlg::OnLbnSelchangeListaHojas)
+    ON_WM_DROPFILES()
+END_MESSAGE_MAP()
+
+BOOL CGenerarCasesDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
+    OnLbnSelchangeListaHojas();
+    Cuadros::Habilita(*this, FALSE, {IDOK});
+    return TRUE;
+}
+
+void CGenerarCasesDlg::OnBnClickedSumarArchivos() {
+    UpdateData(TRUE);
+    CString nombres;
+    if (!Cuadros::PideVariosFicheros(nombres, &m_pPlantilla))
+        return;
+    if (!Cuadros::SumaNombres(m_ListaHojas, nombres))
+        return;
+    UpdateData(FALSE);
+    HabilitaAceptar();
+}
+
+void CGenerarCasesDlg::OnBnClickedRestarArchivos() {
+    UpdateData(TRUE);
+    Cuadros::RestaSeleccionados(m_ListaHojas);
+    UpdateData(FALSE);
+    // Kept: the button itself waits for the next change of the selection.
+    HabilitaAceptar();
+}
+
+void CGenerarCasesDlg::OnLbnSelchangeListaHojas() {
+    Cuadros::Habilita(*this, Cuadros::HaySeleccion(m_ListaHojas), {IDC_GENERAR_CASES_RESTAR});
+}
+
+void CGenerarCasesDlg::OnDropFiles(HDROP hDropInfo) {
+    Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
+    HabilitaAceptar();
+    CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
+}
+
+void CGenerarCasesDlg::HabilitaAceptar() {
+    Cuadros::Habilita(*this, m_ListaHojas.GetCount() >= 1, {IDOK});
+}
+
+void CGenerarCasesDlg::OnOK() {
+    // Kept: a number that is refused here does not stop the list from reaching the host.
+    UpdateData(TRUE);
+    if (m_ListaHojas.GetCount() == 0) {
+        // Kept: neither the text nor the caption is in the language file.
+        MessageBox(L"No ha seleccionado ning\u00FAn archivo", L"Error", MB_ICONERROR);
+        return;
+    }
+    *m_pFicheros = Cuadros::RecogeHojas(m_ListaHojas);
+    CDialog::OnOK();
+}
+
+} // namespace Cotana

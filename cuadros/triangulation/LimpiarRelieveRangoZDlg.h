@@ -1,0 +1,39 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <cotana/triangulacion/DataLimpiarRelieveRangoZ.h>
+
+#include "cuadros/frame/Exporta.h"
+
+namespace Cotana {
+
+/// Options of cleaning a terrain model of points outside a range of elevations. Staged: OK
+/// writes the record, with two decimals. Help at context 150139.
+class CUADROS_API CLimpiarRelieveRangoZDlg : public CDialog {
+    DECLARE_DYNAMIC(CLimpiarRelieveRangoZDlg)
+
+public:
+    /// @param data  the record to edit; it must live as long as the dialog.
+    /// @param padre the owner; null takes the host's main window.
+    explicit CLimpiarRelieveRangoZDlg(CDataLimpiarRelieveRangoZ& data, CWnd* padre = nullptr);
+    ~CLimpiarRelieveRangoZDlg() override;
+
+    void DoDataExchange(CDataExchange* pDX) override;
+    DECLARE_MESSAGE_MAP()
+
+public:
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    virtual void OnHelp();
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
+
+protected:
+    CString m_TextoB;
+    CString m_TextoA;
+    int m_SinUso = 0; // kept: part of the class's layout
+    CDataLimpiarRelieveRangoZ* m_pData;
+};
+
+} // namespace Cotana

@@ -1,0 +1,26 @@
+// The list of classifications of the two selection dialogs.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <vector>
+
+#include <cotana/entidad/InfoClasificacion.h>
+
+namespace Cuadros {
+
+/// Gives the list its three columns.
+void PreparaListaClasificaciones(CListCtrl& lista);
+
+/// Inserts a row with the classification's number; the result is its index in the list.
+int InsertaClasificacion(CListCtrl& lista, int fila,
+                         const Cotana::CInfoClasificacion& clasificacion);
+
+/// Shows the classification's description and its count in the other columns of its row.
+void CompletaClasificacion(CListCtrl& lista, int fila,
+                           const Cotana::CInfoClasificacion& clasificacion);
+
+/// Appends the indices of the selected rows, in increasing order.
+void AgregaSeleccion(const CListCtrl& lista, std::vector<int>& seleccion);
+
+} // namespace Cuadros

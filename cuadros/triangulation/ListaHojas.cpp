@@ -1,0 +1,50 @@
+#include "cuadros/triangulation/ListaHojas.h"
+
+#include <shellapi.h>
+
+#include "cuadros/frame/Nombres.h"
+
+namespace Cuadros {
+
+bool SumaNombres(CListBox& lista, const CString& nombres) {
+    const std::vector<CString> sumados = ListaNombres(nombres);
+    for (const CString& nombre : sumados)
+        lista.AddString(nombre);
+    return !sumados.empty();
+}
+
+void SumaSoltados(CListBox& lista, HDROP soltados) {
+    constexpr UINT cuenta = 0xFFFFFFFF;
+    const UINT cuantos = DragQueryFile(soltados, cuenta, nullptr, 0);
+    for (UINT i = 0; i < cuantos; ++i) {
+        TCHAR ruta[260] = L""; // kept: a longer path is cut
+        DragQueryFile(soltados, i, ruta, 260);
+        lista.AddString(ruta);
+    }
+}
+
+void RestaSeleccionados(CListBox& lista) {
+    std::vector<int> indices(static_cast<std::size_t>(lista.GetSelCount()));
+    lista.GetSelItems(static_cast<int>(indices.size()), indices.data());
+    int borrados = 0;
+    for (const int indice : indices) // each deletion moves those after it one up
+        lista.DeleteString(static_cast<UINT>(indice - borrados++));
+}
+
+bool HaySeleccion(const CListBox& lista) {
+    return lista.GetSelCount() > 0;
+}
+
+std::vector<CString> RecogeHojas(CListBox& lista) {
+    std::vector<CString> hojas(static_cast<std::size_t>(lista.GetCount()));
+    for (std::size_t i = 0; i < hojas.size(); ++i) {
+        const int fila = static_cast<int>(i);
+        // Kept: the list shows each file being taken.
+        lista.SetSel(-1, FALSE);
+        lista.SetSel(fila, TRUE);
+        lista.GetText(fila, hojas[i]);
+    }
+    return hojas;
+}
+
+} // namespace Cuadros

@@ -1,0 +1,65 @@
+// The two selection dialogs for their tests: the classifications that they offer, and how each is
+// opened.
+#pragma once
+
+#include "Comprobaciones.h"
+#include "cuadros/resources/TriangulationIds.h"
+#include "cuadros/triangulation/Triangulacion2DDlg.h"
+#include "cuadros/triangulation/Triangulacion3DDlg.h"
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+using Filas = std::vector<int>;
+using Textos = std::vector<std::wstring>;
+
+// Both dialogs give the same numbers to what they have in common.
+constexpr int Lista = IDC_TRIANGULACION_2D_CLASIFICACIONES;
+constexpr int Todas = IDC_TRIANGULACION_2D_TODAS;
+constexpr int Ninguna = IDC_TRIANGULACION_2D_NINGUNA;
+constexpr int Casilla = IDC_TRIANGULACION_2D_CASILLA;
+static_assert(Lista == IDC_TRIANGULACION_3D_CLASIFICACIONES);
+static_assert(Todas == IDC_TRIANGULACION_3D_TODAS);
+static_assert(Ninguna == IDC_TRIANGULACION_3D_NINGUNA);
+static_assert(Casilla == IDC_TRIANGULACION_3D_CASILLA);
+
+/// A test of a selection dialog: three classifications, the host's variables, and the dialog.
+template <class Dlg>
+class ConClasificaciones : public testing::Test {
+protected:
+    using Paso = std::function<void(kit::Dialog&)>;
+
+    std::vector<Cotana::CInfoClasificacion> clasificaciones{
+        Cotana::CInfoClasificacion(2, 148210, L"Ground"),
+        Cotana::CInfoClasificacion(6, 5120, L"Buildings"),
+        Cotana::CInfoClasificacion(9, 733, L"Water")};
+    double valor = 2.5;
+    CString nombre = L"North slope";
+    int entero = 0;
+    int activarCasilla = 1;
+
+    /// A dialog over the host's variables; of class `De`, where the test has its own.
+    template <class De = Dlg>
+    std::unique_ptr<De> Crea(CWnd* duena = nullptr) {
+        if constexpr (std::is_base_of_v<Cotana::CTriangulacion2DDlg, Dlg>)
+            return std::make_unique<De>(clasificaciones, valor, nombre, activarCasilla, duena);
+        else
+            return std::make_unique<De>(clasificaciones, valor, entero, activarCasilla, duena);
+    }
+
+    /// Runs `dlg` and does `paso` in it; the framework's refusal of a number comes `avisos` times.
+    static INT_PTR Abre(CDialog& dlg, const Paso& paso, int avisos = 0,
+                        kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        EsperaAviso(guion, AFX_IDP_PARSE_REAL, avisos, donde);
+        return guion.run([&] { return dlg.DoModal(); }, donde);
+    }
+    /// The same with a dialog of its own.
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        const auto dlg = Crea();
+        return Abre(*dlg, paso, 0, donde);
+    }
+};

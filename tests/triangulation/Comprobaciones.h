@@ -1,0 +1,113 @@
+// What the tests of several dialogs of the subsystem look at.
+#pragma once
+
+#include "kit/app/RecordingApp.h"
+#include "kit/kit.h"
+
+#include <afxwin.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// A text of the resource chain, by number.
+inline CString TextoDe(UINT numero) {
+    CString texto;
+    EXPECT_TRUE(texto.LoadString(numero)) << "text " << numero;
+    return texto;
+}
+
+/// Expects next the framework's own prompt with this text, `veces` times.
+inline void EsperaAviso(kit::Script& guion, UINT numero, int veces = 1,
+                        kit::Where donde = kit::Where::current()) {
+    for (int i = 0; i < veces; ++i)
+        guion.expectMessage(AfxGetAppName(), TextoDe(numero), MB_ICONEXCLAMATION, donde)
+            .buttons(MB_OK)
+            .ownedByDialog();
+}
+
+/// The dialog has this group icon as its small one, and no big one.
+inline void CompruebaIcono(const kit::Dialog& dialogo, UINT numero) {
+    const auto nombre = MAKEINTRESOURCEW(numero);
+    const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
+    ASSERT_NE(propio, nullptr);
+    const auto icono = [&](WPARAM cual) {
+        return reinterpret_cast<HICON>(SendMessageW(dialogo.handle(), WM_GETICON, cual, 0));
+    };
+    EXPECT_EQ(icono(ICON_SMALL), propio);
+    EXPECT_EQ(icono(ICON_BIG), nullptr);
+}
+
+/// A conversation that opens in the middle of the owner that it is given.
+inline void CompruebaCentro(const std::function<INT_PTR(CWnd*)>& abre) {
+    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.owner(), ventana);
+        RECT duena{};
+        GetWindowRect(ventana, &duena);
+        const RECT marco = dialogo.rect();
+        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
+        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
+        dialogo.press(IDCANCEL);
+    });
+    guion.run([&] { return abre(CWnd::FromHandle(ventana)); });
+    DestroyWindow(ventana);
+}
+
+/// The controls that Tab reaches, from the one with the focus until it comes back to it.
+inline std::vector<int> RecorreConTabulador(const kit::Dialog& dialogo) {
+    std::vector<int> recorrido;
+    do {
+        recorrido.push_back(dialogo.focus());
+        kit::keyboard::press(VK_TAB);
+    } while (dialogo.focus() != recorrido.front() && recorrido.size() < 100);
+    return recorrido;
+}
+
+/// A conversation that, repeated, leaves no handle behind.
+inline void CompruebaQueNadaQueda(const std::function<void()>& conversacion) {
+    conversacion();
+    const auto antes = kit::Handles::now();
+    for (int i = 0; i < 5; ++i)
+        conversacion();
+    EXPECT_EQ(kit::Handles::now(), antes);
+}
+
+/// The exchanges of a dialog of class `Dlg`, as a class derived from it sees them: S for one that
+/// saves, M for one that shows.
+template <class Dlg>
+class ConIntercambios : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    /// The exchanges since the last call.
+    std::string Intercambios() { return std::exchange(m_Intercambios, {}); }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        m_Intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
+        Dlg::DoDataExchange(pDX);
+    }
+
+private:
+    std::string m_Intercambios;
+};
+
+/// A dialog of class `Dlg` with a help of the host's own.
+template <class Dlg>
+class ConAyudaPropia : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    void OnHelp() override { ++veces; }
+
+    int veces = 0;
+};
+
+/// The request that asks for the page with this context of the host's help file.
+inline std::vector<kit::HelpRequest> PaginaDeAyuda(DWORD_PTR contexto) {
+    return {{contexto, 15}};
+}

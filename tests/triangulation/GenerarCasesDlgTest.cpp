@@ -1,0 +1,46 @@
+#include "cuadros/triangulation/GenerarCasesDlg.h"
+
+#include "ListaFicheros.h"
+
+namespace {
+
+static_assert(IDD_GENERAR_CASES == 20110);
+
+struct GenerarCases {
+    using Clase = Cotana::CGenerarCasesDlg;
+    static constexpr const char* Nombre = "CGenerarCasesDlg";
+
+    static std::vector<int> Botones() { return {}; }
+
+    // Kept in one language, whatever the language file is.
+    static std::wstring SinFicheros() { return L"No ha seleccionado ning\u00FAn archivo"; }
+
+    template <class D = Clase>
+    D Dialogo(CWnd* padre = nullptr) {
+        return D(ficheros, plantilla, valor, padre);
+    }
+
+    std::vector<CString> ficheros;
+    CDocTemplate* plantilla = nullptr;
+    double valor = 5;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(GenerarCasesDlg, ListaFicheros, GenerarCases);
+
+TEST(GenerarCasesDlg, ShowsItsListAndItsNumber) {
+    GenerarCases caso;
+    auto dialogo = caso.Dialogo();
+    kit::Script guion;
+    guion.onDialog([](kit::Dialog& abierto) {
+        EXPECT_EQ(abierto.caption(), L"Generate Cases");
+        EXPECT_FALSE(abierto.exists(IDC_TRIANGULACION_3D_DISCO_OPCION_1));
+        abierto.drop({L"C:\\survey\\north slope\\sheet-0412.xyz",
+                      L"C:\\survey\\north slope\\sheet-0413.xyz", L"C:\\survey\\river.xyz"});
+        abierto.listBox(Hojas).choose({1});
+        abierto.picture(L"GenerarCasesDlg");
+        abierto.press(IDCANCEL);
+    });
+    EXPECT_EQ(guion.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+} // namespace

@@ -1,0 +1,723 @@
+// What the two dialogs that take their terrain from disk have in common. A surveyor collects the
+// files of a batch: he adds some through the host's file prompt, drops others from the shell,
+// removes those that he does not want, corrects the number, and leaves the list to the host by OK.
+//
+// A test file describes its dialog by a class and instantiates the suite for it:
+//
+//     struct GenerarCases {
+//         using Clase = ...;                              // the dialog's class
+//         static std::vector<int> Botones();              // tab stops between number and OK
+//         static std::wstring SinFicheros();              // its message about an empty list
+//         template <class D = Clase> D Dialogo(CWnd* padre = nullptr); // over the host's variables
+//         std::vector<CString> ficheros; CDocTemplate* plantilla; double valor; // of the host
+//     };
+#pragma once
+
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/TriangulationIds.h"
+#include "kit/app/RecordingApp.h"
+#include "kit/kit.h"
+
+#include <commctrl.h>
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Filas = std::vector<int>;
+using Textos = std::vector<std::wstring>;
+
+// The numbers are the same in both dialogs.
+constexpr int Hojas = IDC_GENERAR_CASES_HOJAS;
+constexpr int Sumar = IDC_GENERAR_CASES_SUMAR;
+constexpr int Restar = IDC_GENERAR_CASES_RESTAR;
+constexpr int Valor = IDC_GENERAR_CASES_VALOR;
+static_assert(Hojas == 1025 && IDC_TRIANGULACION_3D_DISCO_HOJAS == 1025);
+static_assert(Sumar == 1004 && IDC_TRIANGULACION_3D_DISCO_SUMAR == 1004);
+static_assert(Restar == 1023 && IDC_TRIANGULACION_3D_DISCO_RESTAR == 1023);
+static_assert(Valor == 38487 && IDC_TRIANGULACION_3D_DISCO_VALOR == 38487);
+static_assert(IDI_TRIANGULACION == 19011);
+
+/// A refusal that the user has to read meanwhile.
+enum class Aviso { NumeroMalo, SinFicheros };
+
+const Textos CincoFicheros = {L"C:\\0.xyz", L"C:\\1.xyz", L"C:\\2.xyz", L"C:\\3.xyz", L"C:\\4.xyz"};
+
+inline Textos ComoTextos(const std::vector<CString>& cadenas) {
+    Textos textos;
+    for (const CString& cadena : cadenas)
+        textos.emplace_back(cadena.GetString(), static_cast<std::size_t>(cadena.GetLength()));
+    return textos;
+}
+
+/// Writes down each exchange: S for one that saves into the host's variables, M for one that shows
+/// them; and lets the test at what a class derived from the dialog can reach.
+template <class Clase>
+class CDerivado : public Clase {
+public:
+    using Clase::Clase;
+    using Clase::m_pPlantilla;
+
+    void DoDataExchange(CDataExchange* pDX) override {
+        intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
+        Clase::DoDataExchange(pDX);
+    }
+
+    void OnOK() override {
+        alAceptar();
+        Clase::OnOK();
+        trasAceptar();
+    }
+
+    std::string Intercambios() { return std::exchange(intercambios, {}); }
+
+    std::function<void()> alAceptar = [] {};
+    std::function<void()> trasAceptar = [] {};
+
+private:
+    std::string intercambios;
+};
+
+/// One request to select a row of the list box, or with row -1 all of them.
+struct Marcado {
+    bool si;
+    int fila;
+    bool operator==(const Marcado&) const = default;
+};
+
+/// Subclass of a list box that writes down the requests to select.
+inline LRESULT CALLBACK AnotaMarcados(HWND lista, UINT mensaje, WPARAM w, LPARAM l, UINT_PTR,
+                                      DWORD_PTR anotados) {
+    if (mensaje == LB_SETSEL)
+        reinterpret_cast<std::vector<Marcado>*>(anotados)->push_back({w != 0, static_cast<int>(l)});
+    return DefSubclassProc(lista, mensaje, w, l);
+}
+
+template <class Caso>
+class ListaFicheros : public testing::Test, protected Caso {
+protected:
+    using Clase = typename Caso::Clase;
+    using Derivado = CDerivado<Clase>;
+    using Paso = std::function<void(kit::Dialog&)>;
+
+    /// Opens `dialogo`, does `paso` in it, and returns what `DoModal` returned; `avisos` come
+    /// meanwhile, in this order.
+    INT_PTR Conduce(CDialog& dialogo, std::initializer_list<Aviso> avisos, const Paso& paso,
+                    kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        for (const Aviso aviso : avisos) {
+            CString numeroMalo;
+            EXPECT_TRUE(numeroMalo.LoadString(AFX_IDP_PARSE_REAL));
+            if (aviso == Aviso::NumeroMalo)
+                guion.expectMessage(AfxGetAppName(), numeroMalo, MB_ICONEXCLAMATION, donde);
+            else
+                guion.expectMessage(L"Error", Caso::SinFicheros(), MB_ICONERROR, donde)
+                    .buttons(MB_OK)
+                    .ownedByDialog();
+        }
+        return guion.run([&] { return dialogo.DoModal(); }, donde);
+    }
+
+    /// The same with a dialog of its own, over the host's variables.
+    INT_PTR Abre(std::initializer_list<Aviso> avisos, const Paso& paso,
+                 kit::Where donde = kit::Where::current()) {
+        auto dialogo = this->Dialogo();
+        return Conduce(dialogo, avisos, paso, donde);
+    }
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Abre({}, paso, donde);
+    }
+};
+
+TYPED_TEST_SUITE_P(ListaFicheros);
+
+// What the user sees first.
+
+TYPED_TEST_P(ListaFicheros, StartsEmptyWhateverTheHostsListHolds) {
+    this->ficheros = {L"C:\\before.xyz"};
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        EXPECT_TRUE(dialogo.enabled(Sumar));
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\before.xyz"});
+}
+
+TYPED_TEST_P(ListaFicheros, ShowsTheHostsNumber) {
+    this->valor = -1234.5625;
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Valor), L"-1234.5625");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, OpensInTheMiddleOfItsOwnerWithItsSmallIcon) {
+    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
+    auto dialogo = this->Dialogo(CWnd::FromHandle(ventana));
+    this->Conduce(dialogo, {}, [ventana](kit::Dialog& abierto) {
+        EXPECT_EQ(abierto.owner(), ventana);
+        RECT duena{};
+        GetWindowRect(ventana, &duena);
+        const RECT marco = abierto.rect();
+        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
+        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
+
+        const auto nombre = MAKEINTRESOURCEW(IDI_TRIANGULACION);
+        const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
+        const auto icono = [&](WPARAM cual) {
+            return reinterpret_cast<HICON>(SendMessageW(abierto.handle(), WM_GETICON, cual, 0));
+        };
+        EXPECT_NE(propio, nullptr);
+        EXPECT_EQ(icono(ICON_SMALL), propio);
+        EXPECT_EQ(icono(ICON_BIG), nullptr);
+        abierto.press(IDCANCEL);
+    });
+    DestroyWindow(ventana);
+}
+
+// Adding files through the host's prompt.
+
+TYPED_TEST_P(ListaFicheros, AsksTheHostForSeveralFiles) {
+    this->plantilla = reinterpret_cast<CDocTemplate*>(&kit::app);
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    kit::app.answerFilePrompt(L"C:\\a.xyz");
+    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+        abierto.press(Sumar);
+        const auto preguntas = kit::app.takeFilePrompts();
+        ASSERT_EQ(preguntas.size(), 1U);
+        EXPECT_EQ(preguntas[0].nameBefore, L"");
+        EXPECT_EQ(preguntas[0].title, 61440U);
+        EXPECT_EQ(preguntas[0].flags, 0x81204U);
+        EXPECT_EQ(preguntas[0].open, 1);
+        // The dialog's own member, which holds the host's template.
+        EXPECT_EQ(preguntas[0].documentTemplate, &dialogo.m_pPlantilla);
+        EXPECT_EQ(dialogo.m_pPlantilla, this->plantilla);
+        EXPECT_EQ(preguntas[0].kind, 0);
+        EXPECT_EQ(preguntas[0].reserved, nullptr);
+        EXPECT_EQ(preguntas[0].active, abierto.handle());
+        EXPECT_EQ(abierto.listBox(Hojas).texts(), Textos{L"C:\\a.xyz"});
+        abierto.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, CancelledPromptAddsNothingAndKeepsTheText) {
+    kit::app.cancelFilePrompt();
+    this->Abre([this](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"7.50");
+        dialogo.press(Sumar);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        EXPECT_EQ(dialogo.text(Valor), L"7.50");
+        // The exchange came before the prompt.
+        EXPECT_EQ(this->valor, 7.5);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, AnswerWithoutANameAddsNothing) {
+    for (const wchar_t* respuesta : {L"", L"  ", L" \r\n\uFEFF"}) {
+        kit::app.answerFilePrompt(respuesta);
+        this->Abre([](kit::Dialog& dialogo) {
+            dialogo.type(Valor, L"7.50");
+            dialogo.press(Sumar);
+            EXPECT_EQ(dialogo.listBox(Hojas).count(), 0);
+            EXPECT_FALSE(dialogo.enabled(IDOK));
+            EXPECT_EQ(dialogo.text(Valor), L"7.50");
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+TYPED_TEST_P(ListaFicheros, AddsTheNamesOfAnAnswerInItsOrder) {
+    const struct {
+        const wchar_t* respuesta;
+        Textos nombres;
+    } casos[] = {
+        {L"C:\\b.xyz C:\\a.xyz", {L"C:\\b.xyz", L"C:\\a.xyz"}},
+        {L"\"C:\\two words\\a.xyz\" C:\\b.xyz", {L"C:\\two words\\a.xyz", L"C:\\b.xyz"}},
+        {L"C:\\a.xyz\r\nC:\\b.xyz\r\n", {L"C:\\a.xyz", L"C:\\b.xyz"}},
+        {L"\uFEFF  C:\\a.xyz\n\n\"C:\\b c.xyz\"  ", {L"C:\\a.xyz", L"C:\\b c.xyz"}},
+        {L"C:\\a.xyz\tC:\\b.xyz C:\\c.xyz", {L"C:\\a.xyz\tC:\\b.xyz", L"C:\\c.xyz"}},
+        {L"C:\\a.xyz\"C:\\b.xyz\"\"C:\\c.xyz\"", {L"C:\\a.xyz", L"C:\\b.xyz", L"C:\\c.xyz"}},
+        {L"\"C:\\never closed.xyz", {L"C:\\never closed.xyz"}},
+        {L"\"\" C:\\a.xyz", {L"", L"C:\\a.xyz"}},
+        {L"C:\\a,b;c.xyz C:\\\u00D1and\u00FA\\\u65E5\u672C%20'.xyz",
+         {L"C:\\a,b;c.xyz", L"C:\\\u00D1and\u00FA\\\u65E5\u672C%20'.xyz"}},
+    };
+    for (const auto& caso : casos) {
+        kit::app.answerFilePrompt(caso.respuesta);
+        const auto resultado = this->Abre([&](kit::Dialog& dialogo) {
+            dialogo.press(Sumar);
+            EXPECT_EQ(dialogo.listBox(Hojas).texts(), caso.nombres);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(ComoTextos(this->ficheros), caso.nombres);
+    }
+}
+
+TYPED_TEST_P(ListaFicheros, NamesFromThePromptMayBeOfAnyLength) {
+    const std::wstring largo = L"C:\\" + std::wstring(497, L'k');
+    kit::app.answerFilePrompt(largo);
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.press(Sumar);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{largo});
+}
+
+TYPED_TEST_P(ListaFicheros, TheSameFileTwiceIsListedTwiceAndComesBackTwice) {
+    kit::app.answerFilePrompt(L"C:\\a.xyz C:\\b.xyz");
+    kit::app.answerFilePrompt(L"C:\\a.xyz");
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.press(Sumar);
+        dialogo.press(Sumar);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), (Textos{L"C:\\a.xyz", L"C:\\b.xyz", L"C:\\a.xyz"}));
+}
+
+// Dropping files.
+
+TYPED_TEST_P(ListaFicheros, DroppedFilesAreAddedInTheirOrder) {
+    const Textos soltados = {L"C:\\z.xyz", L"C:\\a b.xyz", L"C:\\m.xyz"};
+    const auto resultado = this->Abre([&](kit::Dialog& dialogo) {
+        dialogo.drop(soltados);
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(), soltados);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), soltados);
+}
+
+TYPED_TEST_P(ListaFicheros, FilesDroppedOnTheListReachTheDialog) {
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.dropOn(Hojas, {L"C:\\a.xyz"});
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(), Textos{L"C:\\a.xyz"});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, FoldersAndOddNamesAreDroppedLikeFiles) {
+    const Textos soltados = {L"C:\\windows",
+                             L"C:\\",
+                             L"\\\\server\\share\\dir with \u00F1",
+                             L"C:\\a;b,c=%TEMP%&'(1).xyz",
+                             L"C:\\\u65E5\u672C\\\U0001F600.xyz",
+                             L"C:\\there is no such file"};
+    this->Abre([&](kit::Dialog& dialogo) {
+        dialogo.drop(soltados);
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(), soltados);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, DroppedPathIsCutTo259Characters) {
+    const auto ruta = [](std::size_t longitud) {
+        return L"C:\\" + std::wstring(longitud - 4, L'k') + L"z";
+    };
+    this->Abre([&](kit::Dialog& dialogo) {
+        dialogo.drop({ruta(259), ruta(260), ruta(500), L"C:\\a.xyz"});
+        const std::wstring cortada = L"C:\\" + std::wstring(256, L'k');
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(),
+                  (Textos{ruta(259), cortada, cortada, L"C:\\a.xyz"}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, ThousandDroppedFilesComeBackInTheirOrder) {
+    Textos soltados;
+    for (int i = 0; i < 1000; ++i)
+        soltados.push_back(L"C:\\survey\\" + std::to_wstring(1000 - i) + L".xyz");
+    const auto resultado = this->Abre([&](kit::Dialog& dialogo) {
+        dialogo.drop(soltados);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 1000);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), soltados);
+}
+
+// Removing files.
+
+TYPED_TEST_P(ListaFicheros, SelectionEnablesRemoving) {
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.listBox(Hojas).choose({2});
+        EXPECT_TRUE(dialogo.enabled(Restar));
+        dialogo.listBox(Hojas).click(2, kit::Held::Ctrl);
+        EXPECT_EQ(dialogo.listBox(Hojas).selected(), Filas{});
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, RemovesExactlyTheSelectedFiles) {
+    const struct {
+        Filas elegidas;
+        Textos quedan;
+    } casos[] = {
+        {{1, 3}, {L"C:\\0.xyz", L"C:\\2.xyz", L"C:\\4.xyz"}},
+        {{3, 1}, {L"C:\\0.xyz", L"C:\\2.xyz", L"C:\\4.xyz"}},
+        {{0}, {L"C:\\1.xyz", L"C:\\2.xyz", L"C:\\3.xyz", L"C:\\4.xyz"}},
+        {{0, 1, 3, 4}, {L"C:\\2.xyz"}},
+    };
+    for (const auto& caso : casos) {
+        const auto resultado = this->Abre([&](kit::Dialog& dialogo) {
+            dialogo.drop(CincoFicheros);
+            dialogo.listBox(Hojas).choose(caso.elegidas);
+            dialogo.press(Restar);
+            EXPECT_EQ(dialogo.listBox(Hojas).texts(), caso.quedan);
+            EXPECT_TRUE(dialogo.enabled(IDOK));
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(ComoTextos(this->ficheros), caso.quedan);
+    }
+}
+
+TYPED_TEST_P(ListaFicheros, RemovingTheLastFileDisablesOk) {
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).choose({0, 1, 2, 3, 4});
+        dialogo.press(Restar);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.drop({L"C:\\again.xyz"});
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, RemoveButtonStaysEnabledUntilTheSelectionChanges) {
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).choose({1, 3});
+        dialogo.press(Restar);
+        EXPECT_EQ(dialogo.listBox(Hojas).selected(), Filas{});
+        EXPECT_TRUE(dialogo.enabled(Restar));
+        // With nothing selected it removes nothing.
+        dialogo.press(Restar);
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(),
+                  (Textos{L"C:\\0.xyz", L"C:\\2.xyz", L"C:\\4.xyz"}));
+        EXPECT_TRUE(dialogo.enabled(Restar));
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.listBox(Hojas).click(0, kit::Held::Ctrl);
+        dialogo.listBox(Hojas).click(0, kit::Held::Ctrl);
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, RemoveCommandOnAnEmptyListDoesNothing) {
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.command(Restar);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, DroppedPromptedAndRemovedFilesMakeOneList) {
+    kit::app.answerFilePrompt(L"C:\\p.xyz \"C:\\q r.xyz\"");
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop({L"C:\\a.xyz", L"C:\\b.xyz"});
+        dialogo.press(Sumar);
+        dialogo.listBox(Hojas).choose({0, 2});
+        dialogo.press(Restar);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), (Textos{L"C:\\b.xyz", L"C:\\q r.xyz"}));
+}
+
+// OK and Cancel.
+
+TYPED_TEST_P(ListaFicheros, OkReplacesTheHostsListAndWritesTheNumber) {
+    this->ficheros = {L"C:\\before 1.xyz", L"C:\\before 2.xyz", L"C:\\before 3.xyz"};
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop({L"C:\\b.xyz", L"C:\\a.xyz"});
+        dialogo.type(Valor, L"-2.5e3");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), (Textos{L"C:\\b.xyz", L"C:\\a.xyz"}));
+    EXPECT_EQ(this->valor, -2500);
+}
+
+TYPED_TEST_P(ListaFicheros, OkSelectsEachFileAloneAsItIsTaken) {
+    std::vector<Marcado> marcados;
+    Filas alFinal;
+    HWND lista = nullptr;
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    dialogo.alAceptar = [&] {
+        SetWindowSubclass(lista, AnotaMarcados, 1, reinterpret_cast<DWORD_PTR>(&marcados));
+    };
+    dialogo.trasAceptar = [&] {
+        RemoveWindowSubclass(lista, AnotaMarcados, 1);
+        alFinal = kit::ListBox(lista).selected();
+    };
+    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+        lista = abierto.control(Hojas);
+        abierto.drop({L"C:\\a.xyz", L"C:\\b.xyz", L"C:\\c.xyz"});
+        abierto.listBox(Hojas).choose({0, 1});
+        abierto.press(IDOK);
+    });
+    const std::vector<Marcado> esperados = {{false, -1}, {true, 0},   {false, -1},
+                                            {true, 1},   {false, -1}, {true, 2}};
+    EXPECT_EQ(marcados, esperados);
+    EXPECT_EQ(alFinal, Filas{2});
+}
+
+TYPED_TEST_P(ListaFicheros, OkCommandWithAnEmptyListIsRefused) {
+    this->ficheros = {L"C:\\before.xyz"};
+    const auto resultado = this->Abre({Aviso::SinFicheros}, [this](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"9");
+        dialogo.command(IDOK);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        EXPECT_EQ(this->valor, 9);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\before.xyz"});
+}
+
+TYPED_TEST_P(ListaFicheros, CancelKeepsTheHostsListAndAnUntouchedNumber) {
+    this->ficheros = {L"C:\\before.xyz"};
+    this->valor = 0.1 + 0.2; // not even rounded
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"9");
+        dialogo.drop(CincoFicheros);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\before.xyz"});
+    EXPECT_EQ(this->valor, 0.1 + 0.2);
+}
+
+TYPED_TEST_P(ListaFicheros, CancelKeepsTheNumberThatRemovingExchanged) {
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).choose({0});
+        dialogo.type(Valor, L"9.50");
+        dialogo.press(Restar);
+        EXPECT_EQ(dialogo.text(Valor), L"9.5");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(this->valor, 9.5);
+}
+
+TYPED_TEST_P(ListaFicheros, HostSeesEachExchangeAsItIsDocumented) {
+    kit::app.cancelFilePrompt();
+    kit::app.answerFilePrompt(L"  ");
+    kit::app.answerFilePrompt(L"C:\\p.xyz");
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    const auto resultado = this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+        EXPECT_EQ(dialogo.Intercambios(), "M");
+        abierto.press(Sumar); // cancelled
+        EXPECT_EQ(dialogo.Intercambios(), "S");
+        abierto.press(Sumar); // no name in the answer
+        EXPECT_EQ(dialogo.Intercambios(), "S");
+        abierto.press(Sumar);
+        EXPECT_EQ(dialogo.Intercambios(), "SM");
+        abierto.drop(CincoFicheros);
+        abierto.listBox(Hojas).choose({0});
+        EXPECT_EQ(dialogo.Intercambios(), "");
+        abierto.press(Restar);
+        EXPECT_EQ(dialogo.Intercambios(), "SM");
+        abierto.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(dialogo.Intercambios(), "SS");
+}
+
+// Texts that are no numbers.
+
+TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtAddingAndThenReplaced) {
+    this->valor = 4;
+    kit::app.answerFilePrompt(L"C:\\a.xyz");
+    this->Abre({Aviso::NumeroMalo}, [this](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"4 m");
+        dialogo.press(Sumar);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 1);
+        EXPECT_EQ(dialogo.text(Valor), L"4");
+        EXPECT_EQ(this->valor, 4);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtRemovingAndThenReplaced) {
+    this->valor = 4;
+    this->Abre({Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).choose({1, 3});
+        dialogo.type(Valor, L"");
+        dialogo.press(Restar);
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 3);
+        EXPECT_EQ(dialogo.text(Valor), L"4");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame) {
+    this->ficheros = {L"C:\\before.xyz"};
+    this->valor = 4;
+    const auto resultado =
+        this->Abre({Aviso::NumeroMalo, Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+            dialogo.drop({L"C:\\a.xyz"});
+            dialogo.type(Valor, L"four");
+            dialogo.press(IDOK);
+            EXPECT_EQ(dialogo.focus(), Valor);
+            EXPECT_EQ(dialogo.text(Valor), L"four");
+            dialogo.press(IDCANCEL);
+        });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(this->valor, 4);
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\a.xyz"});
+}
+
+TYPED_TEST_P(ListaFicheros, BadNumberComesBeforeTheEmptyList) {
+    const auto resultado =
+        this->Abre({Aviso::NumeroMalo, Aviso::SinFicheros}, [](kit::Dialog& dialogo) {
+            dialogo.type(Valor, L"four");
+            dialogo.command(IDOK);
+            dialogo.press(IDCANCEL);
+        });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
+// By keyboard alone.
+
+TYPED_TEST_P(ListaFicheros, KeyboardReachesEveryControlInReadingOrder) {
+    this->Abre([this](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).click(0);
+        std::vector<int> orden = {Hojas, Sumar, Restar, Valor};
+        for (const int boton : this->Botones())
+            orden.push_back(boton);
+        orden.insert(orden.end(), {IDOK, IDCANCEL});
+        std::vector<int> recorrido;
+        for (std::size_t i = 0; i < orden.size(); ++i) {
+            recorrido.push_back(dialogo.focus());
+            kit::keyboard::press(VK_TAB);
+        }
+        EXPECT_EQ(recorrido, orden);
+        EXPECT_EQ(dialogo.focus(), Hojas);
+        kit::keyboard::press(VK_ESCAPE);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, KeysSelectFilesAndRemoveThem) {
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        kit::keyboard::mnemonic(L'f');
+        EXPECT_EQ(dialogo.focus(), Hojas);
+        kit::keyboard::press(VK_HOME);
+        kit::keyboard::press(VK_DOWN);
+        kit::keyboard::press(VK_DOWN, kit::Held::Shift);
+        EXPECT_EQ(dialogo.listBox(Hojas).selected(), (Filas{1, 2}));
+        kit::keyboard::mnemonic(L'r');
+        EXPECT_EQ(dialogo.listBox(Hojas).texts(),
+                  (Textos{L"C:\\0.xyz", L"C:\\3.xyz", L"C:\\4.xyz"}));
+        dialogo.focusOn(Valor);
+        EXPECT_EQ(dialogo.defaultButton(), IDOK);
+        kit::keyboard::press(VK_RETURN);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(ComoTextos(this->ficheros), (Textos{L"C:\\0.xyz", L"C:\\3.xyz", L"C:\\4.xyz"}));
+}
+
+TYPED_TEST_P(ListaFicheros, EscapeIsCancel) {
+    EXPECT_EQ(this->Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+}
+
+// What it has not, and what it is.
+
+TYPED_TEST_P(ListaFicheros, AnswersNoRequestForHelp) {
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.exists(ID_HELP));
+        dialogo.focusOn(Valor);
+        dialogo.help();
+        dialogo.helpOn(Hojas);
+        dialogo.command(ID_HELP);
+        EXPECT_EQ(kit::app.takeHelpRequests(), std::vector<kit::HelpRequest>{});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, HasClassInformationOfItsOwn) {
+    using Clase = typename TypeParam::Clase;
+    CRuntimeClass* const clase = Clase::GetThisClass();
+    auto dialogo = this->Dialogo();
+    EXPECT_EQ(dialogo.GetRuntimeClass(), clase);
+    EXPECT_EQ(clase, RUNTIME_CLASS(Clase));
+    EXPECT_STREQ(clase->m_lpszClassName, TypeParam::Nombre);
+    EXPECT_TRUE(clase->IsDerivedFrom(RUNTIME_CLASS(CDialog)));
+    EXPECT_TRUE(dialogo.IsKindOf(RUNTIME_CLASS(CDialog)));
+}
+
+TYPED_TEST_P(ListaFicheros, RunsUnderTheStateOfTheHost) {
+    CWinApp* aplicacion = nullptr;
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    dialogo.alAceptar = [&] { aplicacion = AfxGetApp(); };
+    this->Conduce(dialogo, {}, [](kit::Dialog& abierto) {
+        abierto.drop({L"C:\\a.xyz"});
+        abierto.press(IDOK);
+    });
+    EXPECT_EQ(aplicacion, &kit::app);
+}
+
+TYPED_TEST_P(ListaFicheros, LeavesNothingBehind) {
+    const auto unaVez = [this] {
+        kit::app.answerFilePrompt(L"C:\\p.xyz \"C:\\q r.xyz\"");
+        this->Abre([](kit::Dialog& dialogo) {
+            dialogo.press(Sumar);
+            dialogo.drop(CincoFicheros);
+            dialogo.listBox(Hojas).choose({1, 3});
+            dialogo.press(Restar);
+            dialogo.press(IDOK);
+        });
+    };
+    unaVez();
+    const auto antes = kit::Handles::now();
+    for (int i = 0; i < 5; ++i)
+        unaVez();
+    EXPECT_EQ(kit::Handles::now(), antes);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(
+    ListaFicheros, StartsEmptyWhateverTheHostsListHolds, ShowsTheHostsNumber,
+    OpensInTheMiddleOfItsOwnerWithItsSmallIcon, AsksTheHostForSeveralFiles,
+    CancelledPromptAddsNothingAndKeepsTheText, AnswerWithoutANameAddsNothing,
+    AddsTheNamesOfAnAnswerInItsOrder, NamesFromThePromptMayBeOfAnyLength,
+    TheSameFileTwiceIsListedTwiceAndComesBackTwice, DroppedFilesAreAddedInTheirOrder,
+    FilesDroppedOnTheListReachTheDialog, FoldersAndOddNamesAreDroppedLikeFiles,
+    DroppedPathIsCutTo259Characters, ThousandDroppedFilesComeBackInTheirOrder,
+    SelectionEnablesRemoving, RemovesExactlyTheSelectedFiles, RemovingTheLastFileDisablesOk,
+    RemoveButtonStaysEnabledUntilTheSelectionChanges, RemoveCommandOnAnEmptyListDoesNothing,
+    DroppedPromptedAndRemovedFilesMakeOneList, OkReplacesTheHostsListAndWritesTheNumber,
+    OkSelectsEachFileAloneAsItIsTaken, OkCommandWithAnEmptyListIsRefused,
+    CancelKeepsTheHostsListAndAnUntouchedNumber, CancelKeepsTheNumberThatRemovingExchanged,
+    HostSeesEachExchangeAsItIsDocumented, BadNumberIsRefusedAtAddingAndThenReplaced,
+    BadNumberIsRefusedAtRemovingAndThenReplaced,
+    BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame,
+    BadNumberComesBeforeTheEmptyList, KeyboardReachesEveryControlInReadingOrder,
+    KeysSelectFilesAndRemoveThem, EscapeIsCancel, AnswersNoRequestForHelp,
+    HasClassInformationOfItsOwn, RunsUnderTheStateOfTheHost, LeavesNothingBehind);
+
+} // namespace

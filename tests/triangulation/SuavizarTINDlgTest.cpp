@@ -1,0 +1,352 @@
+// A surveyor is about to smooth a network. He types how strongly, and whether and how often the
+// smoothing is repeated. The box that repeats it enables the number of times, and with its click
+// all that he typed is in the record, whether he then takes OK or not.
+#include "cuadros/triangulation/SuavizarTINDlg.h"
+
+#include "Comprobaciones.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/TriangulationIds.h"
+
+namespace {
+
+constexpr int Factor = IDC_SUAVIZAR_TIN_FACTOR;
+constexpr int Iterar = IDC_SUAVIZAR_TIN_ITERAR;
+constexpr int Iteraciones = IDC_SUAVIZAR_TIN_ITERACIONES;
+
+static_assert(IDD_SUAVIZAR_TIN == 20114);
+static_assert(Factor == 20077);
+static_assert(Iterar == 1031);
+static_assert(Iteraciones == 1032);
+static_assert(IDI_TRIANGULACION == 19011);
+static_assert(ID_HELP == 57670);
+
+class SuavizarTINDlg : public testing::Test {
+protected:
+    SuavizarTINDlg() {
+        data.m_Factor = 0.25;
+        data.m_Iterar = TRUE;
+        data.m_Iteraciones = 3;
+    }
+
+    using Paso = std::function<void(kit::Dialog&)>;
+
+    /// Opens the dialog and does `paso` in it.
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        return guion.run([this] { return CSuavizarTINDlg(data).DoModal(); }, donde);
+    }
+    /// The same; the framework's prompt comes meanwhile, once.
+    INT_PTR AbreConAviso(UINT aviso, const Paso& paso, kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        EsperaAviso(guion, aviso, 1, donde);
+        return guion.run([this] { return CSuavizarTINDlg(data).DoModal(); }, donde);
+    }
+
+    Cotana::CDataSuavizarTIN data;
+};
+
+// What the user sees first.
+
+TEST_F(SuavizarTINDlg, ShowsTheRecord) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Factor), L"0.25");
+        EXPECT_TRUE(dialogo.checked(Iterar));
+        EXPECT_EQ(dialogo.text(Iteraciones), L"3");
+        EXPECT_TRUE(dialogo.enabled(Iteraciones));
+        dialogo.picture(L"SuavizarTINDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, SingleSmoothingStartsWithTheNumberOfTimesDisabled) {
+    data.m_Iterar = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.checked(Iterar));
+        EXPECT_EQ(dialogo.text(Iteraciones), L"3");
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        EXPECT_TRUE(dialogo.enabled(Factor));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, OpensInTheMiddleOfItsOwner) {
+    CompruebaCentro([this](CWnd* duena) { return CSuavizarTINDlg(data, duena).DoModal(); });
+}
+
+TEST_F(SuavizarTINDlg, HasItsSmallIconOnly) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_TRIANGULACION);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, FactorIsRoundedTo15DigitsAtOpening) {
+    data.m_Factor = 0.1 + 0.2;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Factor), L"0.3");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(data.m_Factor, 0.3);
+}
+
+// The check box.
+
+TEST_F(SuavizarTINDlg, RepetitionEnablesItsNumberOfTimes) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.click(Iterar);
+        EXPECT_EQ(data.m_Iterar, 0);
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        dialogo.click(Iterar);
+        EXPECT_EQ(data.m_Iterar, 1);
+        EXPECT_TRUE(dialogo.enabled(Iteraciones));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, BadNumberOfTimesLeavesTheFlagUnread) {
+    for (const wchar_t* const malo : {L"-1", L"", L"2.5", L"many", L"4294967296"}) {
+        const auto resultado = AbreConAviso(AFX_IDP_PARSE_UINT, [&](kit::Dialog& dialogo) {
+            dialogo.type(Factor, L"0.75");
+            dialogo.type(Iteraciones, malo);
+            dialogo.click(Iterar);
+            // The number of times is exchanged first: neither the flag nor the factor is read, and
+            // the flag of before enables.
+            EXPECT_FALSE(dialogo.checked(Iterar));
+            EXPECT_EQ(data.m_Iterar, 1);
+            EXPECT_EQ(data.m_Iteraciones, 3U);
+            EXPECT_EQ(data.m_Factor, 0.25);
+            EXPECT_TRUE(dialogo.enabled(Iteraciones));
+            EXPECT_EQ(dialogo.focus(), Iteraciones);
+            EXPECT_EQ(dialogo.text(Iteraciones), malo);
+            dialogo.press(IDCANCEL);
+        });
+        EXPECT_EQ(resultado, IDCANCEL);
+        EXPECT_EQ(data.m_Iterar, 1) << kit::inQuotes(malo);
+    }
+}
+
+TEST_F(SuavizarTINDlg, CorrectedNumberOfTimesReadsTheFlagWithOk) {
+    const auto resultado = AbreConAviso(AFX_IDP_PARSE_UINT, [&](kit::Dialog& dialogo) {
+        dialogo.type(Iteraciones, L"");
+        dialogo.click(Iterar);
+        dialogo.type(Iteraciones, L"12");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Iterar, 0);
+    EXPECT_EQ(data.m_Iteraciones, 12U);
+}
+
+TEST_F(SuavizarTINDlg, BadFactorIsRefusedAtTheClickAfterTheFlagIsRead) {
+    const auto resultado = AbreConAviso(AFX_IDP_PARSE_REAL, [&](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"strong");
+        dialogo.click(Iterar);
+        EXPECT_EQ(data.m_Iterar, 0);
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        EXPECT_EQ(dialogo.focus(), Factor);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Factor, 0.25);
+}
+
+// OK.
+
+TEST_F(SuavizarTINDlg, OkLeavesEverythingInTheRecord) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"-1e-3");
+        dialogo.type(Iteraciones, L"4294967295");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Factor, -0.001);
+    EXPECT_EQ(data.m_Iterar, 1);
+    EXPECT_EQ(data.m_Iteraciones, 4294967295U);
+}
+
+TEST_F(SuavizarTINDlg, OkChecksNoRange) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"0");
+        dialogo.type(Iteraciones, L"0");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Factor, 0);
+    EXPECT_EQ(data.m_Iteraciones, 0U);
+}
+
+TEST_F(SuavizarTINDlg, DisabledNumberOfTimesStillComesBack) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Iteraciones, L"8");
+        dialogo.click(Iterar);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_Iterar, 0);
+    EXPECT_EQ(data.m_Iteraciones, 8U);
+}
+
+TEST_F(SuavizarTINDlg, BadFactorIsRefusedOnceByOk) {
+    const auto resultado = AbreConAviso(AFX_IDP_PARSE_REAL, [](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"0,5");
+        dialogo.type(Iteraciones, L"9");
+        dialogo.press(IDOK);
+        EXPECT_EQ(dialogo.focus(), Factor);
+        EXPECT_EQ(dialogo.text(Factor), L"0,5");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Factor, 0.25);
+    // It is exchanged last: what comes before it was stored.
+    EXPECT_EQ(data.m_Iteraciones, 9U);
+}
+
+// Cancel.
+
+TEST_F(SuavizarTINDlg, CancelWithoutAClickKeepsTheRecord) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"0.75");
+        dialogo.type(Iteraciones, L"9");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Factor, 0.25);
+    EXPECT_EQ(data.m_Iterar, 1);
+    EXPECT_EQ(data.m_Iteraciones, 3U);
+}
+
+TEST_F(SuavizarTINDlg, CancelKeepsWhatTheClickExchanged) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"0.75");
+        dialogo.type(Iteraciones, L"9");
+        dialogo.click(Iterar);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_Factor, 0.75);
+    EXPECT_EQ(data.m_Iterar, 0);
+    EXPECT_EQ(data.m_Iteraciones, 9U);
+}
+
+// By keyboard alone.
+
+TEST_F(SuavizarTINDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Factor, Iterar, Iteraciones, IDOK, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, KeyboardPassesTheDisabledNumberOfTimes) {
+    data.m_Iterar = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Factor, Iterar, IDOK, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, MnemonicsReachTheirControls) {
+    Abre([this](kit::Dialog& dialogo) {
+        kit::keyboard::mnemonic(L'n');
+        EXPECT_EQ(dialogo.focus(), Iteraciones);
+        kit::keyboard::mnemonic(L's');
+        EXPECT_EQ(dialogo.focus(), Factor);
+        kit::keyboard::mnemonic(L'r');
+        EXPECT_EQ(dialogo.focus(), Iterar);
+        EXPECT_FALSE(dialogo.checked(Iterar));
+        EXPECT_EQ(data.m_Iterar, 0);
+        kit::keyboard::mnemonic(L'h');
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, SpaceChangesTheCheckBox) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.focusOn(Iterar);
+        kit::keyboard::press(VK_SPACE);
+        EXPECT_EQ(data.m_Iterar, 0);
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, EnterIsOkAndEscapeIsCancel) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
+                  kit::keyboard::press(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+}
+
+// Help.
+
+TEST_F(SuavizarTINDlg, F1AndTheHelpButtonOpenItsPage) {
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {Factor, Iterar}) {
+            dialogo.focusOn(control);
+            dialogo.help();
+            EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
+        }
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(SuavizarTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
+    ConAyudaPropia<CSuavizarTINDlg> derivado(data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.help();
+        EXPECT_EQ(derivado.veces, 1);
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(derivado.veces, 2);
+        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
+        EXPECT_EQ(derivado.veces, 3);
+        dialogo.press(IDCANCEL);
+    });
+    guion.run([&] { return derivado.DoModal(); });
+    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+}
+
+// A host's own class on top of the dialog.
+
+TEST_F(SuavizarTINDlg, HostSeesEachExchangeAsItIsDocumented) {
+    ConIntercambios<CSuavizarTINDlg> contador(data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "MMS");
+        dialogo.type(Factor, L"0.5");
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.click(Iterar);
+        EXPECT_EQ(contador.Intercambios(), "S");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(guion.run([&] { return contador.DoModal(); }), IDOK);
+    EXPECT_EQ(contador.Intercambios(), "S");
+}
+
+TEST_F(SuavizarTINDlg, HasClassInformationOfItsOwn) {
+    const CSuavizarTINDlg dlg(data);
+    EXPECT_EQ(dlg.GetRuntimeClass(), RUNTIME_CLASS(CSuavizarTINDlg));
+    EXPECT_STREQ(dlg.GetRuntimeClass()->m_lpszClassName, "CSuavizarTINDlg");
+    EXPECT_EQ(dlg.GetRuntimeClass()->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+}
+
+TEST_F(SuavizarTINDlg, LeavesNothingBehind) {
+    CompruebaQueNadaQueda([this] {
+        Abre([](kit::Dialog& dialogo) {
+            dialogo.click(Iterar);
+            dialogo.press(IDCANCEL);
+        });
+    });
+}
+
+} // namespace

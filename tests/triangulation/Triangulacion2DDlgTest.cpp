@@ -1,0 +1,143 @@
+// A surveyor triangulates classified points in plan: beside the classifications he types a number
+// and a name. What this dialog has in common with the one in space is tested with the list of both.
+#include "Clasificaciones.h"
+
+namespace {
+
+using Cotana::CTriangulacion2DDlg;
+
+constexpr int Valor = IDC_TRIANGULACION_2D_VALOR;
+constexpr int Nombre = IDC_TRIANGULACION_2D_NOMBRE;
+
+static_assert(IDD_TRIANGULACION_2D == 12102);
+static_assert(Valor == 18298);
+static_assert(Nombre == 19013);
+
+class Triangulacion2DDlg : public ConClasificaciones<CTriangulacion2DDlg> {
+protected:
+    /// Types the number's text and takes OK.
+    void Acepta(const wchar_t* texto, kit::Where donde = kit::Where::current()) {
+        const auto resultado = Abre(
+            [&](kit::Dialog& dialogo) {
+                dialogo.type(Valor, texto);
+                dialogo.press(IDOK);
+            },
+            donde);
+        EXPECT_EQ(resultado, IDOK);
+    }
+};
+
+TEST_F(Triangulacion2DDlg, ShowsTheNumberWithThreeDecimalsAndTheName) {
+    clasificaciones = {
+        Cotana::CInfoClasificacion(2, 148210, L"Ground"),
+        Cotana::CInfoClasificacion(3, 20415, L"Low vegetation"),
+        Cotana::CInfoClasificacion(5, 96330, L"High vegetation"),
+        Cotana::CInfoClasificacion(6, 5120, L"Buildings"),
+        Cotana::CInfoClasificacion(9, 733, L"Water"),
+    };
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Valor), L"2.500");
+        EXPECT_EQ(dialogo.text(Nombre), L"North slope");
+        dialogo.picture(L"Triangulacion2DDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(Triangulacion2DDlg, OkLeavesTheNumberAndTheNameInTheVariables) {
+    const auto dlg = Crea();
+    const auto resultado = Abre(*dlg, [](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"-12.5");
+        dialogo.type(Nombre, L"South slope");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(valor, -12.5);
+    EXPECT_EQ(nombre, L"South slope");
+    EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+}
+
+TEST_F(Triangulacion2DDlg, TypedDecimalsAreAllTaken) {
+    Acepta(L"1.23456");
+    EXPECT_EQ(valor, 1.23456);
+}
+
+TEST_F(Triangulacion2DDlg, UntouchedNumberComesBackWithThreeDecimals) {
+    valor = 1.23456;
+    Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    EXPECT_EQ(valor, 1.235);
+}
+
+TEST_F(Triangulacion2DDlg, NoNumberIsZero) {
+    Acepta(L"");
+    EXPECT_EQ(valor, 0);
+    valor = 1;
+    Acepta(L"wide");
+    EXPECT_EQ(valor, 0);
+}
+
+TEST_F(Triangulacion2DDlg, TextIsReadAsFarAsItIsANumber) {
+    Acepta(L"2,5");
+    EXPECT_EQ(valor, 2);
+    Acepta(L" 7.5 m");
+    EXPECT_EQ(valor, 7.5);
+}
+
+TEST_F(Triangulacion2DDlg, NameKeepsAccentsAndMayBeEmpty) {
+    nombre = L"Añón, Ðúníñ, Ωμέγα";
+    const auto acepta = [](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Nombre), L"Añón, Ðúníñ, Ωμέγα");
+        dialogo.press(IDOK);
+    };
+    EXPECT_EQ(Abre(acepta), IDOK);
+    EXPECT_EQ(nombre, L"Añón, Ðúníñ, Ωμέγα");
+    const auto vacia = [](kit::Dialog& dialogo) {
+        dialogo.type(Nombre, L"");
+        dialogo.press(IDOK);
+    };
+    EXPECT_EQ(Abre(vacia), IDOK);
+    EXPECT_TRUE(nombre.IsEmpty());
+}
+
+TEST_F(Triangulacion2DDlg, CancelForgetsWhatWasTyped) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"7");
+        dialogo.type(Nombre, L"Typed");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(valor, 2.5);
+    EXPECT_EQ(nombre, L"North slope");
+}
+
+TEST_F(Triangulacion2DDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(
+            RecorreConTabulador(dialogo),
+            (std::vector<int>{Lista, Todas, Ninguna, Valor, Nombre, Casilla, IDOK, IDCANCEL}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(Triangulacion2DDlg, MnemonicsReachTheirControls) {
+    Abre([](kit::Dialog& dialogo) {
+        kit::keyboard::mnemonic(L'p');
+        EXPECT_EQ(dialogo.focus(), Valor);
+        kit::keyboard::mnemonic(L'm');
+        EXPECT_EQ(dialogo.focus(), Nombre);
+        kit::keyboard::mnemonic(L'c');
+        EXPECT_EQ(dialogo.focus(), Lista);
+        kit::keyboard::mnemonic(L't');
+        EXPECT_EQ(dialogo.focus(), Casilla);
+        EXPECT_FALSE(dialogo.checked(Casilla));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(Triangulacion2DDlg, HasClassInformationOfItsOwn) {
+    const auto* const clase = Crea()->GetRuntimeClass();
+    EXPECT_EQ(clase, RUNTIME_CLASS(CTriangulacion2DDlg));
+    EXPECT_STREQ(clase->m_lpszClassName, "CTriangulacion2DDlg");
+    EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+}
+
+} // namespace

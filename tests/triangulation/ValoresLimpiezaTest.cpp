@@ -1,0 +1,215 @@
+// A surveyor is about to clean a terrain model. Whichever of the two ways he takes, he types two
+// numbers, sees them with two decimals, and finds them in the record after OK. Nothing that he
+// types is refused.
+#include "Limpieza.h"
+
+#include "cuadros/resources/IconIds.h"
+
+namespace {
+
+static_assert(IDI_LIMPIAR_RELIEVE == 19001);
+static_assert(ID_HELP == 57670);
+
+template <class Dlg>
+using ValoresLimpieza = ConLimpieza<Dlg>;
+using Dialogos = testing::Types<Cotana::CLimpiarRelieveDlg, Cotana::CLimpiarRelieveRangoZDlg>;
+TYPED_TEST_SUITE(ValoresLimpieza, Dialogos, );
+
+// What the user sees first.
+
+TYPED_TEST(ValoresLimpieza, AreShownWithTwoDecimals) {
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(TestFixture::A), L"12.50");
+        EXPECT_EQ(dialogo.text(TestFixture::B), L"-0.25");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST(ValoresLimpieza, OpenInTheMiddleOfTheOwner) {
+    CompruebaCentro([this](CWnd* duena) { return TypeParam(this->data, duena).DoModal(); });
+}
+
+TYPED_TEST(ValoresLimpieza, HaveTheSmallIconOfCleaningOnly) {
+    this->Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_LIMPIAR_RELIEVE);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// OK.
+
+TYPED_TEST(ValoresLimpieza, OkLeavesThemInTheRecord) {
+    this->Acepta(L"3.75", L"1e2");
+    EXPECT_EQ(this->data.m_ValorA, 3.75);
+    EXPECT_EQ(this->data.m_ValorB, 100);
+}
+
+TYPED_TEST(ValoresLimpieza, TypedDecimalsAreAllTaken) {
+    this->Acepta(L"2.345678", L"-0.001");
+    EXPECT_EQ(this->data.m_ValorA, 2.345678);
+    EXPECT_EQ(this->data.m_ValorB, -0.001);
+}
+
+TYPED_TEST(ValoresLimpieza, UntouchedOnesComeBackWithTwoDecimals) {
+    this->data.m_ValorA = 2.345678;
+    this->data.m_ValorB = -1234567.891;
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(this->data.m_ValorA, 2.35);
+    EXPECT_EQ(this->data.m_ValorB, -1234567.89);
+}
+
+TYPED_TEST(ValoresLimpieza, LargestNumbersComeBack) {
+    this->data.m_ValorA = 1e300;
+    this->data.m_ValorB = -1e300;
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(this->data.m_ValorA, 1e300);
+    EXPECT_EQ(this->data.m_ValorB, -1e300);
+}
+
+TYPED_TEST(ValoresLimpieza, LettersAndNothingAreZero) {
+    this->Acepta(L"wide", L"");
+    EXPECT_EQ(this->data.m_ValorA, 0);
+    EXPECT_EQ(this->data.m_ValorB, 0);
+}
+
+TYPED_TEST(ValoresLimpieza, TextIsReadAsFarAsItIsANumber) {
+    this->Acepta(L"2,5", L"  7.5 m");
+    EXPECT_EQ(this->data.m_ValorA, 2);
+    EXPECT_EQ(this->data.m_ValorB, 7.5);
+}
+
+TYPED_TEST(ValoresLimpieza, NoOrderAndNoRangeIsChecked) {
+    this->Acepta(L"0", L"-5");
+    EXPECT_EQ(this->data.m_ValorA, 0);
+    EXPECT_EQ(this->data.m_ValorB, -5);
+}
+
+// Cancel.
+
+TYPED_TEST(ValoresLimpieza, CancelLeavesTheRecordUntouched) {
+    this->data.m_ValorA = 2.345678;
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) {
+        dialogo.type(TestFixture::A, L"1");
+        dialogo.type(TestFixture::B, L"2");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(this->data.m_ValorA, 2.345678);
+    EXPECT_EQ(this->data.m_ValorB, -0.25);
+}
+
+// By keyboard alone.
+
+TYPED_TEST(ValoresLimpieza, KeyboardReachesThemInReadingOrder) {
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{TestFixture::A, TestFixture::B, IDOK, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST(ValoresLimpieza, EnterIsOkAndEscapeIsCancel) {
+    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.defaultButton(), IDOK);
+        kit::keyboard::press(VK_RETURN);
+    }),
+              IDOK);
+    EXPECT_EQ(this->Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+}
+
+TYPED_TEST(ValoresLimpieza, TypingOverTheFirstOneNeedsNoMouse) {
+    const auto resultado = this->Abre([](kit::Dialog&) {
+        kit::keyboard::type(L"4");
+        kit::keyboard::press(VK_TAB);
+        kit::keyboard::type(L"6");
+        kit::keyboard::press(VK_RETURN);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(this->data.m_ValorA, 4);
+    EXPECT_EQ(this->data.m_ValorB, 6);
+}
+
+// Help.
+
+TYPED_TEST(ValoresLimpieza, F1AndTheHelpButtonOpenTheSamePage) {
+    this->Abre([](kit::Dialog& dialogo) {
+        const auto suPagina = PaginaDeAyuda(TestFixture::De::contexto);
+        dialogo.focusOn(TestFixture::B);
+        dialogo.help();
+        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST(ValoresLimpieza, HelpOfADerivedClassIsTheOneThatOpens) {
+    ConAyudaPropia<TypeParam> derivado(this->data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.help();
+        EXPECT_EQ(derivado.veces, 1);
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(derivado.veces, 2);
+        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
+        EXPECT_EQ(derivado.veces, 3);
+        dialogo.press(IDCANCEL);
+    });
+    guion.run([&] { return derivado.DoModal(); });
+    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+}
+
+// A host's own class on top of the dialog.
+
+TYPED_TEST(ValoresLimpieza, HostSeesEachExchangeAsItIsDocumented) {
+    ConIntercambios<TypeParam> contador(this->data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "MM");
+        dialogo.type(TestFixture::A, L"1");
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(guion.run([&] { return contador.DoModal(); }), IDOK);
+    EXPECT_EQ(contador.Intercambios(), "SS");
+}
+
+/// Refuses the first exchange of OK.
+template <class Dlg>
+class CDesconfiado : public Dlg {
+public:
+    using Dlg::Dlg;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        Dlg::DoDataExchange(pDX);
+        if (pDX->m_bSaveAndValidate && !m_Rechazado) {
+            m_Rechazado = true;
+            pDX->Fail();
+        }
+    }
+
+private:
+    bool m_Rechazado = false;
+};
+
+TYPED_TEST(ValoresLimpieza, ResultOfOksOwnExchangeIsNotLookedAt) {
+    CDesconfiado<TypeParam> desconfiado(this->data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.type(TestFixture::A, L"8");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDOK);
+    EXPECT_EQ(this->data.m_ValorA, 8);
+}
+
+TYPED_TEST(ValoresLimpieza, LeaveNothingBehind) {
+    CompruebaQueNadaQueda(
+        [this] { this->Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }); });
+}
+
+} // namespace

@@ -148,7 +148,7 @@ TEST_F(LibraryLoad, FallbackServesEveryLanguage) {
     folder.Put(L"CuadrosLOC.dll", L"CuadrosLOC.dll");
     const LoadedModule library(folder.Put(Library, Library));
     EXPECT_NE(Found(IDD_TRIANGULACION, RT_DIALOG), nullptr);
-    EXPECT_EQ(Text(IDS_COLUMNA_CODIGO), L"Code");
+    EXPECT_EQ(Text(IDS_COLUMNA_CODIGO), L"ID");
 }
 
 // ---- The dialog, in a part of the host that links the library

@@ -22,6 +22,7 @@ struct Bench {
 void measureCycles(Bench& bench);
 void measureExchanges(Bench& bench);
 void measureLists(Bench& bench);
+void measureListDialogs(Bench& bench);
 void measureRefusal(Bench& bench);
 void measureStart(Bench& bench);
 void measureSizes(Bench& bench);

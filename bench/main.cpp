@@ -2,7 +2,7 @@
 //
 //   bench [--quick] [--markdown] [SECTION...]
 //
-// SECTION     growth, cycles, exchanges, lists, refusal, start, sizes: these only
+// SECTION     growth, cycles, exchanges, lists, list-dialogs, refusal, start, sizes: these only
 // --quick     few cycles: shows that it runs, its times mean little
 // --markdown  prints the tables as docs/performance.md has them
 //
@@ -50,9 +50,13 @@ constexpr struct {
     std::wstring_view name;
     void (*measure)(bench::Bench&);
 } sectionsInOrder[] = {
-    {L"growth", bench::measureGrowth},       {L"cycles", bench::measureCycles},
-    {L"exchanges", bench::measureExchanges}, {L"lists", bench::measureLists},
-    {L"refusal", bench::measureRefusal},     {L"start", bench::measureStart},
+    {L"growth", bench::measureGrowth},
+    {L"cycles", bench::measureCycles},
+    {L"exchanges", bench::measureExchanges},
+    {L"lists", bench::measureLists},
+    {L"list-dialogs", bench::measureListDialogs},
+    {L"refusal", bench::measureRefusal},
+    {L"start", bench::measureStart},
     {L"sizes", bench::measureSizes},
 };
 

@@ -22,7 +22,7 @@ int InsertaFila(CListCtrl& lista, int indice, const CString& texto) {
                             LVIS_STATEIMAGEMASK, 0, 0);
 }
 
-ListaSinDibujar::ListaSinDibujar(CListCtrl& lista) : m_Lista(lista) {
+ListaSinDibujar::ListaSinDibujar(CWnd& lista) : m_Lista(lista) {
     m_Lista.SetRedraw(FALSE);
 }
 

@@ -27,13 +27,13 @@ int InsertaFila(CListCtrl& lista, int indice, const CString& texto);
 /// fill. For a list that is shown, one at a time.
 class ListaSinDibujar {
 public:
-    explicit ListaSinDibujar(CListCtrl& lista);
+    explicit ListaSinDibujar(CWnd& lista);
     ~ListaSinDibujar();
     ListaSinDibujar(const ListaSinDibujar&) = delete;
     ListaSinDibujar& operator=(const ListaSinDibujar&) = delete;
 
 private:
-    CListCtrl& m_Lista;
+    CWnd& m_Lista;
 };
 
 /// Selects every one of the first `filas` rows of a list, or none of them, row by row.

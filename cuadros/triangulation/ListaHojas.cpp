@@ -2,12 +2,14 @@
 
 #include <shellapi.h>
 
+#include "cuadros/frame/Listas.h"
 #include "cuadros/frame/Nombres.h"
 
 namespace Cuadros {
 
 bool SumaNombres(CListBox& lista, const CString& nombres) {
     const std::vector<CString> sumados = ListaNombres(nombres);
+    const ListaSinDibujar quieta(lista);
     for (const CString& nombre : sumados)
         lista.AddString(nombre);
     return !sumados.empty();
@@ -16,6 +18,7 @@ bool SumaNombres(CListBox& lista, const CString& nombres) {
 void SumaSoltados(CListBox& lista, HDROP soltados) {
     constexpr UINT cuenta = 0xFFFFFFFF;
     const UINT cuantos = DragQueryFile(soltados, cuenta, nullptr, 0);
+    const ListaSinDibujar quieta(lista);
     for (UINT i = 0; i < cuantos; ++i) {
         TCHAR ruta[260] = L""; // kept: a longer path is cut
         DragQueryFile(soltados, i, ruta, 260);

@@ -35,6 +35,12 @@ CString Valor(int numero) {
     return texto;
 }
 
+CString Valor(unsigned int numero) {
+    CString texto;
+    texto.Format(L"%u", numero);
+    return texto;
+}
+
 CString Valor(const CString& texto) {
     return L"\"" + texto + L"\"";
 }

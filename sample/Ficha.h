@@ -20,6 +20,7 @@ using Ficha = std::vector<Campo>;
 /// A number in the shortest form that reads back as the same one (15 digits at most).
 CString Valor(double numero);
 CString Valor(int numero);
+CString Valor(unsigned int numero);
 /// A text in quotes.
 CString Valor(const CString& texto);
 /// How many codes a table has, and the first of them: "63: CP, CP-T, BM, GCP, GND, ...".

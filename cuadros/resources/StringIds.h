@@ -4,7 +4,7 @@
 #define CUADROS_RESOURCES_STRINGIDS_H
 
 // Messages that several dialogs share.
-#define IDS_TITULO_MENSAJES            15105 // caption of every message; itself the text of one
+#define IDS_TITULO_MENSAJES            15105 // caption of nearly every message; itself the text of one
 #define IDS_TEXTO_OBLIGATORIO          15104
 #define IDS_VALOR_TEXTO_NO_POSITIVO    15037
 #define IDS_VALOR_NO_POSITIVO          19076

@@ -47,7 +47,7 @@
 #define IDC_TRIANGULACION_3D_DISCO_SUMAR  1004
 #define IDC_TRIANGULACION_3D_DISCO_RESTAR 1023
 #define IDC_TRIANGULACION_3D_DISCO_VALOR  38487
-// Hosts know the first of the group alone; the second has the number after it.
+// 1003 is this library's choice: hosts know the first of the group alone.
 #define IDC_TRIANGULACION_3D_DISCO_OPCION_1 1002
 #define IDC_TRIANGULACION_3D_DISCO_OPCION_2 1003
 

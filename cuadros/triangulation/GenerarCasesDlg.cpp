@@ -49,7 +49,7 @@ void CGenerarCasesDlg::OnBnClickedSumarArchivos() {
     if (!Cuadros::SumaNombres(m_ListaHojas, nombres))
         return;
     UpdateData(FALSE);
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 
 void CGenerarCasesDlg::OnBnClickedRestarArchivos() {
@@ -57,7 +57,7 @@ void CGenerarCasesDlg::OnBnClickedRestarArchivos() {
     Cuadros::RestaSeleccionados(m_ListaHojas);
     UpdateData(FALSE);
     // Kept: the button itself waits for the next change of the selection.
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 
 void CGenerarCasesDlg::OnLbnSelchangeListaHojas() {
@@ -66,12 +66,8 @@ void CGenerarCasesDlg::OnLbnSelchangeListaHojas() {
 
 void CGenerarCasesDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
     CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
-}
-
-void CGenerarCasesDlg::HabilitaAceptar() {
-    Cuadros::Habilita(*this, m_ListaHojas.GetCount() >= 1, {IDOK});
 }
 
 void CGenerarCasesDlg::OnOK() {
@@ -82,7 +78,7 @@ void CGenerarCasesDlg::OnOK() {
         MessageBox(L"No ha seleccionado ning\u00FAn archivo", L"Error", MB_ICONERROR);
         return;
     }
-    *m_pFicheros = Cuadros::RecogeHojas(m_ListaHojas);
+    Cuadros::RecogeHojas(m_ListaHojas, *m_pFicheros);
     CDialog::OnOK();
 }
 

@@ -7,6 +7,8 @@
 
 #include <cotana/entidad/InfoClasificacion.h>
 
+#include "cuadros/frame/Listas.h"
+
 namespace Cuadros {
 
 /// Gives the list its three columns.
@@ -19,6 +21,21 @@ int InsertaClasificacion(CListCtrl& lista, int fila,
 /// Shows the classification's description and its count in the other columns of its row.
 void CompletaClasificacion(CListCtrl& lista, int fila,
                            const Cotana::CInfoClasificacion& clasificacion);
+
+/// Fills the list by the dialog's own operations, in two passes, and selects the first row.
+template <class Dialogo>
+void LlenaListaClasificaciones(Dialogo& dialogo, CListCtrl& lista, std::size_t cuantas) {
+    PreparaListaClasificaciones(lista);
+    {
+        const ListaSinDibujar quieta(lista);
+        const int filas = static_cast<int>(cuantas);
+        for (int i = 0; i < filas; ++i)
+            dialogo.ElementoNuevo(i);
+        for (int i = 0; i < filas; ++i)
+            dialogo.ModificaElemento(i);
+    }
+    lista.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+}
 
 /// Appends the indices of the selected rows, in increasing order.
 void AgregaSeleccion(const CListCtrl& lista, std::vector<int>& seleccion);

@@ -2,6 +2,9 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
+
+#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Listas.h"
 #include "cuadros/frame/Nombres.h"
 
@@ -27,7 +30,7 @@ void SumaSoltados(CListBox& lista, HDROP soltados) {
 }
 
 void RestaSeleccionados(CListBox& lista) {
-    std::vector<int> indices(static_cast<std::size_t>(lista.GetSelCount()));
+    std::vector<int> indices(static_cast<std::size_t>(std::max(0, lista.GetSelCount())));
     lista.GetSelItems(static_cast<int>(indices.size()), indices.data());
     int borrados = 0;
     for (const int indice : indices) // each deletion moves those after it one up
@@ -38,16 +41,19 @@ bool HaySeleccion(const CListBox& lista) {
     return lista.GetSelCount() > 0;
 }
 
-std::vector<CString> RecogeHojas(CListBox& lista) {
-    std::vector<CString> hojas(static_cast<std::size_t>(lista.GetCount()));
-    for (std::size_t i = 0; i < hojas.size(); ++i) {
-        const int fila = static_cast<int>(i);
+void RecogeHojas(CListBox& lista, std::vector<CString>& hojas) {
+    hojas.clear();
+    const int cuantas = lista.GetCount();
+    for (int i = 0; i < cuantas; ++i) {
         // Kept: the list shows each file being taken.
         lista.SetSel(-1, FALSE);
-        lista.SetSel(fila, TRUE);
-        lista.GetText(fila, hojas[i]);
+        lista.SetSel(i, TRUE);
+        lista.GetText(i, hojas.emplace_back());
     }
-    return hojas;
+}
+
+void HabilitaAceptar(CWnd& dialogo, const CListBox& lista) {
+    Habilita(dialogo, lista.GetCount() >= 1, {IDOK});
 }
 
 } // namespace Cuadros

@@ -21,7 +21,10 @@ void RestaSeleccionados(CListBox& lista);
 /// Whether at least one row is selected.
 bool HaySeleccion(const CListBox& lista);
 
-/// The rows in their order; each is selected, alone, as it is taken.
-std::vector<CString> RecogeHojas(CListBox& lista);
+/// Replaces `hojas` by the rows in their order; each is selected, alone, as it is taken.
+void RecogeHojas(CListBox& lista, std::vector<CString>& hojas);
+
+/// Enables a dialog's OK while its list holds a file.
+void HabilitaAceptar(CWnd& dialogo, const CListBox& lista);
 
 } // namespace Cuadros

@@ -39,16 +39,7 @@ END_MESSAGE_MAP()
 BOOL CTriangulacion2DDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
-    Cuadros::PreparaListaClasificaciones(m_ListaClasificaciones);
-    {
-        const Cuadros::ListaSinDibujar quieta(m_ListaClasificaciones);
-        const int cuantas = static_cast<int>(m_Clasificaciones.size());
-        for (int i = 0; i < cuantas; ++i)
-            ElementoNuevo(i);
-        for (int i = 0; i < cuantas; ++i)
-            ModificaElemento(i);
-    }
-    m_ListaClasificaciones.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    Cuadros::LlenaListaClasificaciones(*this, m_ListaClasificaciones, m_Clasificaciones.size());
     // Kept: what the host chose before is not asked; a box that may be used starts ticked.
     m_Casilla = m_ActivarCasilla != 0;
     if (m_ActivarCasilla == 0)

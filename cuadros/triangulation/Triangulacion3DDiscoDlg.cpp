@@ -54,7 +54,7 @@ void CTriangulacion3DDiscoDlg::OnSumarArchivos() {
     if (!Cuadros::SumaNombres(m_ListaHojas, nombres))
         return;
     UpdateData(FALSE);
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 
 void CTriangulacion3DDiscoDlg::OnRestarArchivos() {
@@ -62,7 +62,7 @@ void CTriangulacion3DDiscoDlg::OnRestarArchivos() {
     Cuadros::RestaSeleccionados(m_ListaHojas);
     UpdateData(FALSE);
     // Kept: the button itself waits for the next change of the selection.
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 
 void CTriangulacion3DDiscoDlg::OnSelchangeListaHojas() {
@@ -72,12 +72,8 @@ void CTriangulacion3DDiscoDlg::OnSelchangeListaHojas() {
 
 void CTriangulacion3DDiscoDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
-    HabilitaAceptar();
+    Cuadros::HabilitaAceptar(*this, m_ListaHojas);
     CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
-}
-
-void CTriangulacion3DDiscoDlg::HabilitaAceptar() {
-    Cuadros::Habilita(*this, m_ListaHojas.GetCount() >= 1, {IDOK});
 }
 
 void CTriangulacion3DDiscoDlg::OnOK() {
@@ -88,7 +84,7 @@ void CTriangulacion3DDiscoDlg::OnOK() {
         MessageBox(Cuadros::Texto(IDS_SIN_FICHEROS), L"Error", MB_ICONERROR);
         return;
     }
-    *m_pFicheros = Cuadros::RecogeHojas(m_ListaHojas);
+    Cuadros::RecogeHojas(m_ListaHojas, *m_pFicheros);
     CDialog::OnOK();
 }
 

@@ -44,9 +44,6 @@ protected:
     CListBox m_ListaHojas;
     std::vector<CString>* m_pFicheros;
     CDocTemplate* m_pPlantilla;
-
-private:
-    void HabilitaAceptar();
 };
 
 } // namespace Cotana

@@ -14,7 +14,7 @@ Ficha FichaSuavizarTIN(const Terreno& terreno) {
     return {
         {L"m_Factor", Valor(data.m_Factor)},
         {L"m_Iterar", Valor(data.m_Iterar)},
-        {L"m_Iteraciones", Valor(static_cast<int>(data.m_Iteraciones))},
+        {L"m_Iteraciones", Valor(data.m_Iteraciones)},
     };
 }
 

@@ -12,6 +12,10 @@ TEST(Ficha, ShowsNumbersInTheirShortestForm) {
     EXPECT_EQ(Valor(7), L"7");
 }
 
+TEST(Ficha, ShowsNumbersWithoutASignWhole) {
+    EXPECT_EQ(Valor(4294967295u), L"4294967295");
+}
+
 TEST(Ficha, ShowsTextsInQuotes) {
     EXPECT_EQ(Valor(CString()), L"\"\"");
     EXPECT_EQ(Valor(CString(L"North slope")), L"\"North slope\"");

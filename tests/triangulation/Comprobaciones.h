@@ -1,12 +1,15 @@
 // What the tests of several dialogs of the subsystem look at.
 #pragma once
 
+#include "frame/Escucha.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
 #include <afxwin.h>
 
 #include <functional>
+#include <list>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -67,6 +70,22 @@ inline std::vector<int> RecorreConTabulador(const kit::Dialog& dialogo) {
     return recorrido;
 }
 
+/// Takes OK; the result is the controls that it reads, in its order.
+inline std::vector<int> LeidosPorOk(kit::Dialog& dialogo, const std::vector<int>& controles) {
+    std::vector<int> leidos;
+    std::list<Escucha> escuchas;
+    for (const int control : controles)
+        escuchas.emplace_back(dialogo.control(control),
+                              [&leidos, control](UINT mensaje, WPARAM, LPARAM) {
+                                  const bool lee = mensaje == WM_GETTEXT || mensaje == BM_GETCHECK;
+                                  if (lee && (leidos.empty() || leidos.back() != control))
+                                      leidos.push_back(control);
+                                  return std::optional<LRESULT>();
+                              });
+    dialogo.press(IDOK);
+    return leidos;
+}
+
 /// A conversation that, repeated, leaves no handle behind.
 inline void CompruebaQueNadaQueda(const std::function<void()>& conversacion) {
     conversacion();
@@ -88,12 +107,32 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
+        EXPECT_EQ(AfxGetApp(), &kit::app);
         m_Intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
         Dlg::DoDataExchange(pDX);
     }
 
 private:
     std::string m_Intercambios;
+};
+
+/// A dialog of class `Dlg` that refuses one of the exchanges that save, after all is stored.
+template <class Dlg>
+class CDesconfiado : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    int rechazado = 1; ///< Which one, counted from 1.
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        Dlg::DoDataExchange(pDX);
+        if (pDX->m_bSaveAndValidate && ++m_Guardados == rechazado)
+            pDX->Fail();
+    }
+
+private:
+    int m_Guardados = 0;
 };
 
 /// A dialog of class `Dlg` with a help of the host's own.

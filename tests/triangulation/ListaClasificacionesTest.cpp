@@ -7,6 +7,8 @@
 #include "cuadros/resources/StringIds.h"
 
 #include <limits>
+#include <optional>
+#include <string>
 
 namespace {
 
@@ -90,6 +92,61 @@ TYPED_TEST(ListaClasificaciones, StartsWithTheFirstRowSelectedAndOkEnabled) {
     this->Abre([](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.list(Lista).selected(), Filas{0});
         EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+/// Hears how the dialog fills its list.
+template <class Dlg>
+class ConListaOida : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    const Textos& Oido() const { return m_Oido; }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        Dlg::DoDataExchange(pDX);
+        if (!m_Escucha)
+            m_Escucha.emplace(this->m_ListaClasificaciones.m_hWnd,
+                              [this](UINT mensaje, WPARAM wParam, LPARAM lParam) {
+                                  Oye(mensaje, static_cast<int>(wParam),
+                                      reinterpret_cast<const LVITEMW*>(lParam));
+                                  return std::optional<LRESULT>();
+                              });
+    }
+
+private:
+    void Oye(UINT mensaje, int fila, const LVITEMW* elemento) {
+        const auto anota = [this](const wchar_t* que, int uno, unsigned otro) {
+            m_Oido.push_back(que + std::to_wstring(uno) + L" " + std::to_wstring(otro));
+        };
+        switch (mensaje) {
+        case LVM_INSERTITEMW:
+            anota(L"row ", elemento->iItem, static_cast<unsigned>(elemento->iSubItem));
+            break;
+        case LVM_SETITEMTEXTW:
+            anota(L"text ", fila, static_cast<unsigned>(elemento->iSubItem));
+            break;
+        case LVM_SETITEMSTATE:
+            anota(L"row of state ", fila, elemento->stateMask);
+            anota(L"state ", static_cast<int>(elemento->state), elemento->stateMask);
+            break;
+        default:
+            break;
+        }
+    }
+
+    Textos m_Oido;
+    std::optional<Escucha> m_Escucha;
+};
+
+TYPED_TEST(ListaClasificaciones, IsFilledInTwoPassesBeforeTheFirstRowIsSelected) {
+    const auto dlg = this->template Crea<ConListaOida<TypeParam>>();
+    this->Abre(*dlg, [&](kit::Dialog& dialogo) {
+        EXPECT_EQ(dlg->Oido(), (Textos{L"row 0 0", L"row 1 0", L"row 2 0", L"text 0 1", L"text 0 2",
+                                       L"text 1 1", L"text 1 2", L"text 2 1", L"text 2 2",
+                                       L"row of state 0 2", L"state 2 2"}));
         dialogo.press(IDCANCEL);
     });
 }

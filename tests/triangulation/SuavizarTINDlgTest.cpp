@@ -91,6 +91,20 @@ TEST_F(SuavizarTINDlg, FactorIsRoundedTo15DigitsAtOpening) {
     EXPECT_EQ(data.m_Factor, 0.3);
 }
 
+TEST_F(SuavizarTINDlg, FlagOutsideItsRangeIsReadBackAtOpening) {
+    for (const int antes : {2, -1, 7}) {
+        data.m_Iterar = antes;
+        Abre([&](kit::Dialog& dialogo) {
+            // What a box of two states makes of a third one is the system's.
+            const auto mostrado = SendMessageW(dialogo.control(Iterar), BM_GETCHECK, 0, 0);
+            EXPECT_EQ(mostrado != BST_UNCHECKED, antes == 2);
+            EXPECT_EQ(data.m_Iterar, mostrado);
+            EXPECT_EQ(dialogo.enabled(Iteraciones), antes == 2);
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
 // The check box.
 
 TEST_F(SuavizarTINDlg, RepetitionEnablesItsNumberOfTimes) {
@@ -331,6 +345,28 @@ TEST_F(SuavizarTINDlg, HostSeesEachExchangeAsItIsDocumented) {
     });
     EXPECT_EQ(guion.run([&] { return contador.DoModal(); }), IDOK);
     EXPECT_EQ(contador.Intercambios(), "S");
+}
+
+TEST_F(SuavizarTINDlg, HostCallsTheHandlerItself) {
+    CSuavizarTINDlg dlg(data);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.type(Factor, L"0.75");
+        dialogo.type(Iteraciones, L"9");
+        dlg.CheckDlgButton(Iterar, BST_UNCHECKED);
+        EXPECT_TRUE(dialogo.enabled(Iteraciones));
+        dlg.OnBnClickedCheckIterar();
+        EXPECT_EQ(data.m_Factor, 0.75);
+        EXPECT_EQ(data.m_Iterar, 0);
+        EXPECT_EQ(data.m_Iteraciones, 9U);
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        dlg.CheckDlgButton(Iterar, BST_CHECKED);
+        dlg.OnBnClickedCheckIterar();
+        EXPECT_EQ(data.m_Iterar, 1);
+        EXPECT_TRUE(dialogo.enabled(Iteraciones));
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(guion.run([&] { return dlg.DoModal(); }), IDCANCEL);
 }
 
 TEST_F(SuavizarTINDlg, HasClassInformationOfItsOwn) {

@@ -2,6 +2,8 @@
 // and a name. What this dialog has in common with the one in space is tested with the list of both.
 #include "Clasificaciones.h"
 
+#include <algorithm>
+
 namespace {
 
 using Cotana::CTriangulacion2DDlg;
@@ -56,6 +58,50 @@ TEST_F(Triangulacion2DDlg, OkLeavesTheNumberAndTheNameInTheVariables) {
     EXPECT_EQ(dlg->m_Seleccion, Filas{0});
 }
 
+TEST_F(Triangulacion2DDlg, OkWithoutASelectionLeavesTheNumberAndTheNameToo) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.press(Ninguna);
+        dialogo.type(Valor, L"7");
+        dialogo.type(Nombre, L"South slope");
+        dialogo.command(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(valor, 7);
+    EXPECT_EQ(nombre, L"South slope");
+}
+
+TEST_F(Triangulacion2DDlg, ResultOfOksOwnExchangeIsNotLookedAt) {
+    const auto dlg = Crea<CDesconfiado<CTriangulacion2DDlg>>();
+    const auto resultado = Abre(*dlg, [](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"7");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(valor, 7);
+    EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+}
+
+TEST_F(Triangulacion2DDlg, NumberAndSelectionAreThereWhenTheFrameworksExchangeIsRefused) {
+    const auto dlg = Crea<CDesconfiado<CTriangulacion2DDlg>>();
+    dlg->rechazado = 2;
+    const auto resultado = Abre(*dlg, [&](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"7");
+        dialogo.press(IDOK);
+        EXPECT_EQ(valor, 7);
+        EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(dlg->m_Seleccion, (Filas{0, 0}));
+}
+
+TEST_F(Triangulacion2DDlg, OkReadsTheNumberThenTheNameThenTheCheckBox) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(LeidosPorOk(dialogo, {Casilla, Nombre, Valor}),
+                  (std::vector<int>{Valor, Nombre, Casilla, Valor, Nombre, Casilla}));
+    });
+}
+
 TEST_F(Triangulacion2DDlg, TypedDecimalsAreAllTaken) {
     Acepta(L"1.23456");
     EXPECT_EQ(valor, 1.23456);
@@ -65,6 +111,22 @@ TEST_F(Triangulacion2DDlg, UntouchedNumberComesBackWithThreeDecimals) {
     valor = 1.23456;
     Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
     EXPECT_EQ(valor, 1.235);
+}
+
+TEST_F(Triangulacion2DDlg, LargestNumbersComeBack) {
+    for (const double grande : {1e300, -1e300}) {
+        valor = grande;
+        EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+        EXPECT_EQ(valor, grande);
+    }
+}
+
+TEST_F(Triangulacion2DDlg, SmallNegativeNumberIsShownAsMinusZero) {
+    valor = -0.0004;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Valor), L"-0.000");
+        dialogo.press(IDCANCEL);
+    });
 }
 
 TEST_F(Triangulacion2DDlg, NoNumberIsZero) {
@@ -138,6 +200,25 @@ TEST_F(Triangulacion2DDlg, HasClassInformationOfItsOwn) {
     EXPECT_EQ(clase, RUNTIME_CLASS(CTriangulacion2DDlg));
     EXPECT_STREQ(clase->m_lpszClassName, "CTriangulacion2DDlg");
     EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+}
+
+/// Shows the members that a derived class sees.
+class ConMiembros : public CTriangulacion2DDlg {
+public:
+    using CTriangulacion2DDlg::CTriangulacion2DDlg;
+
+    std::vector<const void*> EnSuOrden() const {
+        return {&m_Clasificaciones, &m_ListaClasificaciones,
+                &m_ActivarCasilla,  &m_TextoValor,
+                &m_pNombre,         &m_pValor,
+                &m_Seleccion,       &m_Casilla};
+    }
+};
+
+TEST_F(Triangulacion2DDlg, MembersFollowEachOtherInTheirOrder) {
+    const auto dlg = Crea<ConMiembros>();
+    EXPECT_TRUE(std::ranges::is_sorted(dlg->EnSuOrden()));
+    EXPECT_EQ(dlg->m_Casilla, 0);
 }
 
 } // namespace

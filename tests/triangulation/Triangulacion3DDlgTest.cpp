@@ -3,6 +3,8 @@
 // of both.
 #include "Clasificaciones.h"
 
+#include <algorithm>
+
 namespace {
 
 using Cotana::CTriangulacion3DDlg;
@@ -54,6 +56,48 @@ TEST_F(Triangulacion3DDlg, OkLeavesTheNumberAndTheOptionInTheVariables) {
     EXPECT_EQ(nombre, L"North slope");
 }
 
+TEST_F(Triangulacion3DDlg, OkWithoutASelectionLeavesTheNumberAndTheOptionToo) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.press(Ninguna);
+        dialogo.type(Valor, L"7");
+        dialogo.click(Entero);
+        dialogo.command(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(valor, 7);
+    EXPECT_EQ(entero, 1);
+}
+
+TEST_F(Triangulacion3DDlg, ResultOfOksOwnExchangeIsNotLookedAt) {
+    const auto dlg = Crea<CDesconfiado<CTriangulacion3DDlg>>();
+    EXPECT_EQ(Abre(*dlg, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+    EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+}
+
+TEST_F(Triangulacion3DDlg, OptionOutsideItsRangeComesBackAsItIsShown) {
+    for (const int antes : {2, 7}) {
+        entero = antes;
+        EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); }), IDCANCEL);
+        EXPECT_EQ(entero, antes);
+        LRESULT mostrado = -1;
+        const auto resultado = Abre([&](kit::Dialog& dialogo) {
+            // What a box of two states makes of a third one is the system's.
+            mostrado = SendMessageW(dialogo.control(Entero), BM_GETCHECK, 0, 0);
+            EXPECT_EQ(mostrado != BST_UNCHECKED, antes == 2);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(entero, mostrado);
+    }
+}
+
+TEST_F(Triangulacion3DDlg, OkReadsTheNumberThenTheOptionThenTheCheckBox) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(LeidosPorOk(dialogo, {Casilla, Entero, Valor}),
+                  (std::vector<int>{Valor, Entero, Casilla, Valor, Entero, Casilla}));
+    });
+}
+
 TEST_F(Triangulacion3DDlg, NumberIsRoundedTo15DigitsByOk) {
     valor = 0.1 + 0.2;
     Abre([](kit::Dialog& dialogo) {
@@ -82,7 +126,10 @@ TEST_F(Triangulacion3DDlg, BadNumberIsRefusedTwiceAndTheSelectionIsAppendedAgain
             dialogo.list(Lista).choose({0, 2});
             dialogo.type(Valor, L"2,5");
             dialogo.click(Entero);
+            dialogo.click(Casilla);
             dialogo.press(IDOK);
+            // The number is exchanged first: neither box is read.
+            EXPECT_EQ(dlg->m_Casilla, 1);
             EXPECT_EQ(dialogo.focus(), Valor);
             EXPECT_EQ(dialogo.text(Valor), L"2,5");
             EXPECT_EQ(valor, 2.5);
@@ -143,6 +190,25 @@ TEST_F(Triangulacion3DDlg, HasClassInformationOfItsOwn) {
     EXPECT_EQ(clase, RUNTIME_CLASS(CTriangulacion3DDlg));
     EXPECT_STREQ(clase->m_lpszClassName, "CTriangulacion3DDlg");
     EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+}
+
+/// Shows the members that a derived class sees.
+class ConMiembros : public CTriangulacion3DDlg {
+public:
+    using CTriangulacion3DDlg::CTriangulacion3DDlg;
+
+    std::vector<const void*> EnSuOrden() const {
+        return {&m_Clasificaciones, &m_ListaClasificaciones,
+                &m_ActivarCasilla,  &m_pValor,
+                &m_pEntero,         &m_Seleccion,
+                &m_Casilla};
+    }
+};
+
+TEST_F(Triangulacion3DDlg, MembersFollowEachOtherInTheirOrder) {
+    const auto dlg = Crea<ConMiembros>();
+    EXPECT_TRUE(std::ranges::is_sorted(dlg->EnSuOrden()));
+    EXPECT_EQ(dlg->m_Casilla, 0);
 }
 
 } // namespace

@@ -5,6 +5,11 @@
 
 #include "cuadros/resources/IconIds.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
 namespace {
 
 static_assert(IDI_LIMPIAR_RELIEVE == 19001);
@@ -177,25 +182,6 @@ TYPED_TEST(ValoresLimpieza, HostSeesEachExchangeAsItIsDocumented) {
     EXPECT_EQ(contador.Intercambios(), "SS");
 }
 
-/// Refuses the first exchange of OK.
-template <class Dlg>
-class CDesconfiado : public Dlg {
-public:
-    using Dlg::Dlg;
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        Dlg::DoDataExchange(pDX);
-        if (pDX->m_bSaveAndValidate && !m_Rechazado) {
-            m_Rechazado = true;
-            pDX->Fail();
-        }
-    }
-
-private:
-    bool m_Rechazado = false;
-};
-
 TYPED_TEST(ValoresLimpieza, ResultOfOksOwnExchangeIsNotLookedAt) {
     CDesconfiado<TypeParam> desconfiado(this->data);
     kit::Script guion;
@@ -205,6 +191,53 @@ TYPED_TEST(ValoresLimpieza, ResultOfOksOwnExchangeIsNotLookedAt) {
     });
     EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDOK);
     EXPECT_EQ(this->data.m_ValorA, 8);
+}
+
+TYPED_TEST(ValoresLimpieza, AreInTheRecordWhenTheFrameworksExchangeIsRefused) {
+    CDesconfiado<TypeParam> desconfiado(this->data);
+    desconfiado.rechazado = 2;
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.type(TestFixture::A, L"8");
+        dialogo.type(TestFixture::B, L"9");
+        dialogo.press(IDOK);
+        EXPECT_EQ(this->data.m_ValorA, 8);
+        EXPECT_EQ(this->data.m_ValorB, 9);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(this->data.m_ValorA, 8);
+    EXPECT_EQ(this->data.m_ValorB, 9);
+}
+
+TYPED_TEST(ValoresLimpieza, SecondOneIsReadBeforeTheFirstOne) {
+    const std::vector<int> valores{TestFixture::A, TestFixture::B};
+    this->Abre([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(
+            LeidosPorOk(dialogo, valores),
+            (std::vector<int>{TestFixture::B, TestFixture::A, TestFixture::B, TestFixture::A}));
+    });
+}
+
+/// Shows the members that a derived class sees.
+template <class Dlg>
+class ConMiembros : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    void Comprueba() const {
+        const std::vector<const void*> miembros = {&this->m_TextoB, &this->m_TextoA,
+                                                   &this->m_SinUso, &this->m_pData};
+        EXPECT_TRUE(std::ranges::is_sorted(miembros));
+        static_assert(std::is_same_v<decltype(this->m_SinUso), std::int32_t>);
+        EXPECT_EQ(this->m_SinUso, 0);
+        EXPECT_TRUE(this->m_TextoB.IsEmpty());
+        EXPECT_TRUE(this->m_TextoA.IsEmpty());
+    }
+};
+
+TYPED_TEST(ValoresLimpieza, MembersFollowEachOtherInTheirOrder) {
+    ConMiembros<TypeParam>(this->data).Comprueba();
 }
 
 TYPED_TEST(ValoresLimpieza, LeaveNothingBehind) {

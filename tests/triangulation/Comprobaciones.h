@@ -122,13 +122,17 @@ class CDesconfiado : public Dlg {
 public:
     using Dlg::Dlg;
 
-    int rechazado = 1; ///< Which one, counted from 1.
+    int rechazado = 1;                ///< Which one, counted from 1.
+    std::function<void()> alRechazar; ///< Looks at what there is then.
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
         Dlg::DoDataExchange(pDX);
-        if (pDX->m_bSaveAndValidate && ++m_Guardados == rechazado)
+        if (pDX->m_bSaveAndValidate && ++m_Guardados == rechazado) {
+            if (alRechazar)
+                alRechazar();
             pDX->Fail();
+        }
     }
 
 private:

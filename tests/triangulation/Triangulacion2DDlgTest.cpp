@@ -84,11 +84,13 @@ TEST_F(Triangulacion2DDlg, ResultOfOksOwnExchangeIsNotLookedAt) {
 TEST_F(Triangulacion2DDlg, NumberAndSelectionAreThereWhenTheFrameworksExchangeIsRefused) {
     const auto dlg = Crea<CDesconfiado<CTriangulacion2DDlg>>();
     dlg->rechazado = 2;
-    const auto resultado = Abre(*dlg, [&](kit::Dialog& dialogo) {
-        dialogo.type(Valor, L"7");
-        dialogo.press(IDOK);
+    dlg->alRechazar = [&] {
         EXPECT_EQ(valor, 7);
         EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+    };
+    const auto resultado = Abre(*dlg, [](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"7");
+        dialogo.press(IDOK);
         dialogo.press(IDOK);
     });
     EXPECT_EQ(resultado, IDOK);

@@ -196,13 +196,15 @@ TYPED_TEST(ValoresLimpieza, ResultOfOksOwnExchangeIsNotLookedAt) {
 TYPED_TEST(ValoresLimpieza, AreInTheRecordWhenTheFrameworksExchangeIsRefused) {
     CDesconfiado<TypeParam> desconfiado(this->data);
     desconfiado.rechazado = 2;
+    desconfiado.alRechazar = [this] {
+        EXPECT_EQ(this->data.m_ValorA, 8);
+        EXPECT_EQ(this->data.m_ValorB, 9);
+    };
     kit::Script guion;
     guion.onDialog([&](kit::Dialog& dialogo) {
         dialogo.type(TestFixture::A, L"8");
         dialogo.type(TestFixture::B, L"9");
         dialogo.press(IDOK);
-        EXPECT_EQ(this->data.m_ValorA, 8);
-        EXPECT_EQ(this->data.m_ValorB, 9);
         dialogo.press(IDCANCEL);
     });
     EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDCANCEL);

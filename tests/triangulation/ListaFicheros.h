@@ -8,22 +8,25 @@
 //         using Clase = ...;                              // the dialog's class
 //         static std::vector<int> Botones();              // tab stops between number and OK
 //         static std::wstring SinFicheros();              // its message about an empty list
+//         static constexpr auto AlSumar, AlRestar, AlElegir; // its handlers: add, remove, select
 //         template <class D = Clase> D Dialogo(CWnd* padre = nullptr); // over the host's variables
 //         std::vector<CString> ficheros; CDocTemplate* plantilla; double valor; // of the host
 //     };
 #pragma once
 
+#include "Comprobaciones.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
+#include "frame/Escucha.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
-#include <commctrl.h>
+#include <shellapi.h>
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -54,18 +57,15 @@ inline Textos ComoTextos(const std::vector<CString>& cadenas) {
     return textos;
 }
 
-/// Writes down each exchange: S for one that saves into the host's variables, M for one that shows
-/// them; and lets the test at what a class derived from the dialog can reach.
+/// Lets the test at what a class derived from the dialog sees and can reach.
 template <class Clase>
-class CDerivado : public Clase {
+class CDerivado : public ConIntercambios<Clase> {
 public:
-    using Clase::Clase;
+    using ConIntercambios<Clase>::ConIntercambios;
+    using Clase::m_ListaHojas;
+    using Clase::m_pFicheros;
     using Clase::m_pPlantilla;
-
-    void DoDataExchange(CDataExchange* pDX) override {
-        intercambios += pDX->m_bSaveAndValidate ? 'S' : 'M';
-        Clase::DoDataExchange(pDX);
-    }
+    using Clase::m_pValor;
 
     void OnOK() override {
         alAceptar();
@@ -73,13 +73,15 @@ public:
         trasAceptar();
     }
 
-    std::string Intercambios() { return std::exchange(intercambios, {}); }
+    LRESULT DefWindowProc(UINT mensaje, WPARAM w, LPARAM l) override {
+        if (mensaje == WM_DROPFILES)
+            alSoltarPorDefecto(reinterpret_cast<HDROP>(w));
+        return Clase::DefWindowProc(mensaje, w, l);
+    }
 
     std::function<void()> alAceptar = [] {};
     std::function<void()> trasAceptar = [] {};
-
-private:
-    std::string intercambios;
+    std::function<void(HDROP)> alSoltarPorDefecto = [](HDROP) {};
 };
 
 /// One request to select a row of the list box, or with row -1 all of them.
@@ -89,12 +91,14 @@ struct Marcado {
     bool operator==(const Marcado&) const = default;
 };
 
-/// Subclass of a list box that writes down the requests to select.
-inline LRESULT CALLBACK AnotaMarcados(HWND lista, UINT mensaje, WPARAM w, LPARAM l, UINT_PTR,
-                                      DWORD_PTR anotados) {
-    if (mensaje == LB_SETSEL)
-        reinterpret_cast<std::vector<Marcado>*>(anotados)->push_back({w != 0, static_cast<int>(l)});
-    return DefSubclassProc(lista, mensaje, w, l);
+/// The addresses grow from each one to the next.
+inline void CompruebaCrecientes(const std::vector<const void*>& direcciones) {
+    for (std::size_t i = 1; i < direcciones.size(); ++i)
+        EXPECT_TRUE(std::less<>{}(direcciones[i - 1], direcciones[i])) << "address " << i;
+}
+
+inline UINT CuantosSoltados(HDROP soltados) {
+    return DragQueryFileW(soltados, 0xFFFFFFFF, nullptr, 0);
 }
 
 template <class Caso>
@@ -111,10 +115,8 @@ protected:
         kit::Script guion;
         guion.onDialog(paso, donde);
         for (const Aviso aviso : avisos) {
-            CString numeroMalo;
-            EXPECT_TRUE(numeroMalo.LoadString(AFX_IDP_PARSE_REAL));
             if (aviso == Aviso::NumeroMalo)
-                guion.expectMessage(AfxGetAppName(), numeroMalo, MB_ICONEXCLAMATION, donde);
+                EsperaAviso(guion, AFX_IDP_PARSE_REAL, 1, donde);
             else
                 guion.expectMessage(L"Error", Caso::SinFicheros(), MB_ICONERROR, donde)
                     .buttons(MB_OK)
@@ -158,29 +160,18 @@ TYPED_TEST_P(ListaFicheros, ShowsTheHostsNumber) {
     });
 }
 
-TYPED_TEST_P(ListaFicheros, OpensInTheMiddleOfItsOwnerWithItsSmallIcon) {
-    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
-    auto dialogo = this->Dialogo(CWnd::FromHandle(ventana));
-    this->Conduce(dialogo, {}, [ventana](kit::Dialog& abierto) {
-        EXPECT_EQ(abierto.owner(), ventana);
-        RECT duena{};
-        GetWindowRect(ventana, &duena);
-        const RECT marco = abierto.rect();
-        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
-        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
-
-        const auto nombre = MAKEINTRESOURCEW(IDI_TRIANGULACION);
-        const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
-        const auto icono = [&](WPARAM cual) {
-            return reinterpret_cast<HICON>(SendMessageW(abierto.handle(), WM_GETICON, cual, 0));
-        };
-        EXPECT_NE(propio, nullptr);
-        EXPECT_EQ(icono(ICON_SMALL), propio);
-        EXPECT_EQ(icono(ICON_BIG), nullptr);
-        abierto.press(IDCANCEL);
+TYPED_TEST_P(ListaFicheros, OpensInTheMiddleOfItsOwner) {
+    CompruebaCentro([this](CWnd* padre) {
+        auto dialogo = this->Dialogo(padre);
+        return dialogo.DoModal();
     });
-    DestroyWindow(ventana);
+}
+
+TYPED_TEST_P(ListaFicheros, HasTheSmallIconOfTheSubsystem) {
+    this->Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_TRIANGULACION);
+        dialogo.press(IDCANCEL);
+    });
 }
 
 // Adding files through the host's prompt.
@@ -264,6 +255,17 @@ TYPED_TEST_P(ListaFicheros, AddsTheNamesOfAnAnswerInItsOrder) {
     }
 }
 
+TYPED_TEST_P(ListaFicheros, AddedFilesEnableOk) {
+    kit::app.answerFilePrompt(L"C:\\a.xyz");
+    this->Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(Sumar);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        EXPECT_FALSE(dialogo.enabled(Restar));
+        dialogo.press(IDCANCEL);
+    });
+}
+
 TYPED_TEST_P(ListaFicheros, NamesFromThePromptMayBeOfAnyLength) {
     const std::wstring largo = L"C:\\" + std::wstring(497, L'k');
     kit::app.answerFilePrompt(largo);
@@ -302,6 +304,32 @@ TYPED_TEST_P(ListaFicheros, DroppedFilesAreAddedInTheirOrder) {
     EXPECT_EQ(ComoTextos(this->ficheros), soltados);
 }
 
+TYPED_TEST_P(ListaFicheros, DropIsPassedOnToTheDefaultOnceItsFilesAreListed) {
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    HDROP llegado = nullptr;
+    int veces = 0;
+    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+        const Escucha escucha(abierto.handle(), [&](UINT mensaje, WPARAM w, LPARAM) {
+            if (mensaje == WM_DROPFILES)
+                llegado = reinterpret_cast<HDROP>(w);
+            return std::optional<LRESULT>{};
+        });
+        dialogo.alSoltarPorDefecto = [&](HDROP soltados) {
+            ++veces;
+            EXPECT_EQ(abierto.listBox(Hojas).count(), 3);
+            EXPECT_TRUE(abierto.enabled(IDOK));
+            EXPECT_EQ(soltados, llegado);
+            EXPECT_EQ(CuantosSoltados(soltados), 3U);
+        };
+        abierto.drop({L"C:\\a.xyz", L"C:\\b.xyz", L"C:\\c.xyz"});
+        EXPECT_EQ(veces, 1);
+        // Not even afterwards does the dialog free what was dropped.
+        EXPECT_EQ(CuantosSoltados(llegado), 3U);
+        DragFinish(llegado);
+        abierto.press(IDCANCEL);
+    });
+}
+
 TYPED_TEST_P(ListaFicheros, FilesDroppedOnTheListReachTheDialog) {
     this->Abre([](kit::Dialog& dialogo) {
         dialogo.dropOn(Hojas, {L"C:\\a.xyz"});
@@ -315,6 +343,7 @@ TYPED_TEST_P(ListaFicheros, FoldersAndOddNamesAreDroppedLikeFiles) {
                              L"C:\\",
                              L"\\\\server\\share\\dir with \u00F1",
                              L"C:\\a;b,c=%TEMP%&'(1).xyz",
+                             L"C:\\a\tb.xyz",
                              L"C:\\\u65E5\u672C\\\U0001F600.xyz",
                              L"C:\\there is no such file"};
     this->Abre([&](kit::Dialog& dialogo) {
@@ -422,6 +451,22 @@ TYPED_TEST_P(ListaFicheros, RemoveButtonStaysEnabledUntilTheSelectionChanges) {
     });
 }
 
+TYPED_TEST_P(ListaFicheros, AddingAndDroppingKeepTheRemoveButtonAsRemovingLeftIt) {
+    kit::app.answerFilePrompt(L"C:\\p.xyz");
+    this->Abre([](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.listBox(Hojas).choose({1});
+        dialogo.press(Restar);
+        dialogo.drop({L"C:\\d.xyz"});
+        EXPECT_TRUE(dialogo.enabled(Restar));
+        dialogo.press(Sumar);
+        EXPECT_TRUE(dialogo.enabled(Restar));
+        EXPECT_EQ(dialogo.listBox(Hojas).count(), 6);
+        EXPECT_EQ(dialogo.listBox(Hojas).selected(), Filas{});
+        dialogo.press(IDCANCEL);
+    });
+}
+
 TYPED_TEST_P(ListaFicheros, RemoveCommandOnAnEmptyListDoesNothing) {
     this->Abre([](kit::Dialog& dialogo) {
         dialogo.command(Restar);
@@ -463,12 +508,17 @@ TYPED_TEST_P(ListaFicheros, OkSelectsEachFileAloneAsItIsTaken) {
     std::vector<Marcado> marcados;
     Filas alFinal;
     HWND lista = nullptr;
+    std::optional<Escucha> escucha;
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
     dialogo.alAceptar = [&] {
-        SetWindowSubclass(lista, AnotaMarcados, 1, reinterpret_cast<DWORD_PTR>(&marcados));
+        escucha.emplace(lista, [&](UINT mensaje, WPARAM w, LPARAM l) {
+            if (mensaje == LB_SETSEL)
+                marcados.push_back({w != 0, static_cast<int>(l)});
+            return std::optional<LRESULT>{};
+        });
     };
     dialogo.trasAceptar = [&] {
-        RemoveWindowSubclass(lista, AnotaMarcados, 1);
+        escucha.reset();
         alFinal = kit::ListBox(lista).selected();
     };
     this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
@@ -611,12 +661,7 @@ TYPED_TEST_P(ListaFicheros, KeyboardReachesEveryControlInReadingOrder) {
         for (const int boton : this->Botones())
             orden.push_back(boton);
         orden.insert(orden.end(), {IDOK, IDCANCEL});
-        std::vector<int> recorrido;
-        for (std::size_t i = 0; i < orden.size(); ++i) {
-            recorrido.push_back(dialogo.focus());
-            kit::keyboard::press(VK_TAB);
-        }
-        EXPECT_EQ(recorrido, orden);
+        EXPECT_EQ(RecorreConTabulador(dialogo), orden);
         EXPECT_EQ(dialogo.focus(), Hojas);
         kit::keyboard::press(VK_ESCAPE);
     });
@@ -671,6 +716,52 @@ TYPED_TEST_P(ListaFicheros, HasClassInformationOfItsOwn) {
     EXPECT_TRUE(dialogo.IsKindOf(RUNTIME_CLASS(CDialog)));
 }
 
+TYPED_TEST_P(ListaFicheros, HostCallsTheHandlersItself) {
+    kit::app.answerFilePrompt(L"C:\\p.xyz C:\\q.xyz");
+    auto dialogo = this->Dialogo();
+    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+        (dialogo.*TypeParam::AlSumar)();
+        EXPECT_EQ(abierto.listBox(Hojas).texts(), (Textos{L"C:\\p.xyz", L"C:\\q.xyz"}));
+        EXPECT_TRUE(abierto.enabled(IDOK));
+
+        abierto.listBox(Hojas).choose({0, 1});
+        EnableWindow(abierto.control(Restar), FALSE);
+        (dialogo.*TypeParam::AlElegir)();
+        EXPECT_TRUE(abierto.enabled(Restar));
+
+        (dialogo.*TypeParam::AlRestar)();
+        EXPECT_EQ(abierto.listBox(Hojas).count(), 0);
+        EXPECT_FALSE(abierto.enabled(IDOK));
+
+        // What is dropped is kept from the dialog, for the host to hand it over.
+        HDROP soltados = nullptr;
+        {
+            const Escucha escucha(abierto.handle(), [&](UINT mensaje, WPARAM w, LPARAM) {
+                if (mensaje != WM_DROPFILES)
+                    return std::optional<LRESULT>{};
+                soltados = reinterpret_cast<HDROP>(w);
+                return std::optional<LRESULT>(0);
+            });
+            abierto.drop(CincoFicheros);
+        }
+        EXPECT_EQ(abierto.listBox(Hojas).count(), 0);
+        dialogo.OnDropFiles(soltados);
+        EXPECT_EQ(abierto.listBox(Hojas).texts(), CincoFicheros);
+        EXPECT_TRUE(abierto.enabled(IDOK));
+        DragFinish(soltados);
+        abierto.press(IDCANCEL);
+    });
+}
+
+TYPED_TEST_P(ListaFicheros, KeepsItsMembersInTheDeclaredOrder) {
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    EXPECT_EQ(dialogo.m_pValor, &this->valor);
+    EXPECT_EQ(dialogo.m_pFicheros, &this->ficheros);
+    EXPECT_EQ(dialogo.m_pPlantilla, this->plantilla);
+    CompruebaCrecientes(
+        {&dialogo.m_pValor, &dialogo.m_ListaHojas, &dialogo.m_pFicheros, &dialogo.m_pPlantilla});
+}
+
 TYPED_TEST_P(ListaFicheros, RunsUnderTheStateOfTheHost) {
     CWinApp* aplicacion = nullptr;
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
@@ -683,7 +774,7 @@ TYPED_TEST_P(ListaFicheros, RunsUnderTheStateOfTheHost) {
 }
 
 TYPED_TEST_P(ListaFicheros, LeavesNothingBehind) {
-    const auto unaVez = [this] {
+    CompruebaQueNadaQueda([this] {
         kit::app.answerFilePrompt(L"C:\\p.xyz \"C:\\q r.xyz\"");
         this->Abre([](kit::Dialog& dialogo) {
             dialogo.press(Sumar);
@@ -692,24 +783,21 @@ TYPED_TEST_P(ListaFicheros, LeavesNothingBehind) {
             dialogo.press(Restar);
             dialogo.press(IDOK);
         });
-    };
-    unaVez();
-    const auto antes = kit::Handles::now();
-    for (int i = 0; i < 5; ++i)
-        unaVez();
-    EXPECT_EQ(kit::Handles::now(), antes);
+    });
 }
 
 REGISTER_TYPED_TEST_SUITE_P(
     ListaFicheros, StartsEmptyWhateverTheHostsListHolds, ShowsTheHostsNumber,
-    OpensInTheMiddleOfItsOwnerWithItsSmallIcon, AsksTheHostForSeveralFiles,
+    OpensInTheMiddleOfItsOwner, HasTheSmallIconOfTheSubsystem, AsksTheHostForSeveralFiles,
     CancelledPromptAddsNothingAndKeepsTheText, AnswerWithoutANameAddsNothing,
-    AddsTheNamesOfAnAnswerInItsOrder, NamesFromThePromptMayBeOfAnyLength,
+    AddsTheNamesOfAnAnswerInItsOrder, AddedFilesEnableOk, NamesFromThePromptMayBeOfAnyLength,
     TheSameFileTwiceIsListedTwiceAndComesBackTwice, DroppedFilesAreAddedInTheirOrder,
-    FilesDroppedOnTheListReachTheDialog, FoldersAndOddNamesAreDroppedLikeFiles,
-    DroppedPathIsCutTo259Characters, ThousandDroppedFilesComeBackInTheirOrder,
-    SelectionEnablesRemoving, RemovesExactlyTheSelectedFiles, RemovingTheLastFileDisablesOk,
-    RemoveButtonStaysEnabledUntilTheSelectionChanges, RemoveCommandOnAnEmptyListDoesNothing,
+    DropIsPassedOnToTheDefaultOnceItsFilesAreListed, FilesDroppedOnTheListReachTheDialog,
+    FoldersAndOddNamesAreDroppedLikeFiles, DroppedPathIsCutTo259Characters,
+    ThousandDroppedFilesComeBackInTheirOrder, SelectionEnablesRemoving,
+    RemovesExactlyTheSelectedFiles, RemovingTheLastFileDisablesOk,
+    RemoveButtonStaysEnabledUntilTheSelectionChanges,
+    AddingAndDroppingKeepTheRemoveButtonAsRemovingLeftIt, RemoveCommandOnAnEmptyListDoesNothing,
     DroppedPromptedAndRemovedFilesMakeOneList, OkReplacesTheHostsListAndWritesTheNumber,
     OkSelectsEachFileAloneAsItIsTaken, OkCommandWithAnEmptyListIsRefused,
     CancelKeepsTheHostsListAndAnUntouchedNumber, CancelKeepsTheNumberThatRemovingExchanged,
@@ -718,6 +806,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame,
     BadNumberComesBeforeTheEmptyList, KeyboardReachesEveryControlInReadingOrder,
     KeysSelectFilesAndRemoveThem, EscapeIsCancel, AnswersNoRequestForHelp,
-    HasClassInformationOfItsOwn, RunsUnderTheStateOfTheHost, LeavesNothingBehind);
+    HasClassInformationOfItsOwn, HostCallsTheHandlersItself, KeepsItsMembersInTheDeclaredOrder,
+    RunsUnderTheStateOfTheHost, LeavesNothingBehind);
 
 } // namespace

@@ -14,6 +14,9 @@ static_assert(IDS_SIN_FICHEROS == 20243);
 struct Triangulacion3DDisco {
     using Clase = Cotana::CTriangulacion3DDiscoDlg;
     static constexpr const char* Nombre = "CTriangulacion3DDiscoDlg";
+    static constexpr auto AlSumar = &Clase::OnSumarArchivos;
+    static constexpr auto AlRestar = &Clase::OnRestarArchivos;
+    static constexpr auto AlElegir = &Clase::OnSelchangeListaHojas;
 
     static std::vector<int> Botones() { return {Opcion1}; }
 
@@ -100,6 +103,42 @@ TEST_F(Triangulacion3DDiscoDlg, BadNumberKeepsTheChoiceOfBefore) {
         EXPECT_EQ(dialogo.radio(Opcion1, Opcion2), Opcion1);
         dialogo.press(IDCANCEL);
     });
+}
+
+TEST_F(Triangulacion3DDiscoDlg, RefusedOkThenCancelKeepsTheChoiceThatOkExchanged) {
+    const auto resultado = Abre({Aviso::SinFicheros}, [this](kit::Dialog& dialogo) {
+        dialogo.click(Opcion2);
+        dialogo.command(IDOK);
+        EXPECT_EQ(opcion, 1);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(opcion, 1);
+}
+
+TEST_F(Triangulacion3DDiscoDlg, BadNumberAtOkThenCancelKeepsTheChoiceOfBefore) {
+    const auto resultado = Abre({Aviso::NumeroMalo, Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.click(Opcion2);
+        dialogo.type(Valor, L"x");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(opcion, 0);
+}
+
+/// Lets the test at the member that the common list has not.
+class CConOpcion : public CDerivado<Cotana::CTriangulacion3DDiscoDlg> {
+public:
+    using CDerivado::CDerivado;
+    using CTriangulacion3DDiscoDlg::m_pOpcion;
+};
+
+TEST_F(Triangulacion3DDiscoDlg, KeepsTheChoiceBetweenTheNumberAndTheList) {
+    auto dialogo = Dialogo<CConOpcion>();
+    EXPECT_EQ(dialogo.m_pOpcion, &opcion);
+    CompruebaCrecientes({&dialogo.m_pValor, &dialogo.m_pOpcion, &dialogo.m_ListaHojas});
 }
 
 TEST_F(Triangulacion3DDiscoDlg, ArrowKeysMoveTheChoice) {

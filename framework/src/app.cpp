@@ -4,22 +4,19 @@
 #include "afxrt/wnd.h"
 #include "disabled_window.h"
 #include "module_file.h"
+#include "owned_text.h"
 #include "thread_state.h"
 
 #include <cwchar>
 #include <string>
 
 using afx_internal::HandleOf;
+using afx_internal::ReplaceText;
 using afx_internal::WithoutExtension;
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 namespace {
-
-void Replace(LPCTSTR& member, const wchar_t* text) {
-    std::free(const_cast<LPTSTR>(member));
-    member = text ? ::_wcsdup(text) : nullptr;
-}
 
 std::wstring FileTitle(const std::wstring& path) {
     const std::size_t slash = path.find_last_of(L"\\/");
@@ -34,7 +31,7 @@ std::wstring HelpFile(const std::wstring& path, AFX_HELP_TYPE type) {
 } // namespace
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pState(AfxGetModuleState()) {
-    Replace(m_pszAppName, lpszAppName);
+    ReplaceText(m_pszAppName, lpszAppName);
     if (!m_pState->m_pCurrentWinApp)
         m_pState->m_pCurrentWinApp = this;
 }
@@ -44,7 +41,7 @@ CWinApp::~CWinApp() {
         m_pState->m_pCurrentWinApp = nullptr;
     for (LPCTSTR* name :
          {&m_pszAppName, &m_pszExeName, &m_pszHelpFilePath, &m_pszProfileName, &m_pszRegistryKey})
-        Replace(*name, nullptr);
+        ReplaceText(*name, nullptr);
 }
 
 BOOL CWinApp::InitApplication() {
@@ -70,18 +67,18 @@ void CWinApp::TakeModuleNames() {
     const std::wstring path = afx_internal::ModulePath(m_hInstance);
     const std::wstring title = FileTitle(path);
     if (!m_pszExeName)
-        Replace(m_pszExeName, title.c_str());
+        ReplaceText(m_pszExeName, title.c_str());
     if (!m_pszAppName) {
         CString name;
         // Only the module's own title: another's in the chain would be somebody else's name.
         if (!name.LoadString(m_hInstance, AFX_IDS_APP_TITLE))
             name = m_pszExeName;
-        Replace(m_pszAppName, name);
+        ReplaceText(m_pszAppName, name);
     }
     if (!m_pszHelpFilePath)
-        Replace(m_pszHelpFilePath, HelpFile(path, m_eHelpType).c_str());
+        ReplaceText(m_pszHelpFilePath, HelpFile(path, m_eHelpType).c_str());
     if (!m_pszProfileName)
-        Replace(m_pszProfileName, (title + L".INI").c_str());
+        ReplaceText(m_pszProfileName, (title + L".INI").c_str());
 }
 
 void CWinApp::EnableHtmlHelp() {
@@ -91,7 +88,7 @@ void CWinApp::EnableHtmlHelp() {
 void CWinApp::SetHelpMode(AFX_HELP_TYPE eHelpType) {
     m_eHelpType = eHelpType;
     if (m_pszHelpFilePath)
-        Replace(m_pszHelpFilePath, HelpFile(m_pszHelpFilePath, eHelpType).c_str());
+        ReplaceText(m_pszHelpFilePath, HelpFile(m_pszHelpFilePath, eHelpType).c_str());
 }
 
 AFX_HELP_TYPE CWinApp::GetHelpMode() {

@@ -1,6 +1,8 @@
 // The application profile: an .INI file, or the registry once a key was set.
 #include "afxrt/app.h"
 
+#include "owned_text.h"
+
 #include <cstring>
 #include <cwchar>
 #include <string>
@@ -51,17 +53,12 @@ BOOL WriteValue(HKEY section, LPCTSTR entry, DWORD type, const void* data, DWORD
                                       bytes) == ERROR_SUCCESS;
 }
 
-void SetName(LPCTSTR& member, LPCTSTR text) {
-    std::free(const_cast<LPTSTR>(member));
-    member = ::_wcsdup(text);
-}
-
 } // namespace
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
-    SetName(m_pszRegistryKey, lpszRegistryKey);
+    afx_internal::ReplaceText(m_pszRegistryKey, lpszRegistryKey);
     // In the registry the profile goes by the application's name, not by a file's.
-    SetName(m_pszProfileName, m_pszAppName ? m_pszAppName : L"");
+    afx_internal::ReplaceText(m_pszProfileName, m_pszAppName ? m_pszAppName : L"");
 }
 
 void CWinApp::SetRegistryKey(UINT nIDRegistryKey) {

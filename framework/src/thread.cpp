@@ -11,6 +11,17 @@ int afx_internal::ExitCodeOfLoop() {
     return last.message == WM_QUIT ? static_cast<int>(last.wParam) : 0;
 }
 
+bool afx_internal::OfferToWindows(MSG* message) {
+    for (HWND window = message->hwnd; window; window = ::GetAncestor(window, GA_PARENT)) {
+        CWnd* object = CWnd::FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(message))
+            return true;
+        if (!(::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD))
+            break;
+    }
+    return false;
+}
+
 CWinThread::CWinThread() : m_hThread(::GetCurrentThread()), m_nThreadID(::GetCurrentThreadId()) {}
 
 CWinThread::~CWinThread() = default;
@@ -55,15 +66,7 @@ BOOL CWinThread::PumpMessage() {
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
-    // From the window that the message is for up to its top-level window, each may take it.
-    for (HWND window = pMsg->hwnd; window; window = ::GetAncestor(window, GA_PARENT)) {
-        CWnd* object = CWnd::FromHandlePermanent(window);
-        if (object && object->PreTranslateMessage(pMsg))
-            return TRUE;
-        if (!(::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD))
-            break;
-    }
-    return FALSE;
+    return afx_internal::OfferToWindows(pMsg);
 }
 
 BOOL CWinThread::OnIdle(LONG lCount) {

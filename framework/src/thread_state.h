@@ -19,4 +19,8 @@ ThreadState& CurrentThread();
 /// What the message that ended the thread's loop says; 0 when no loop was ended.
 int ExitCodeOfLoop();
 
+/// Offers a message to the window that it is for and on up to its top-level window: each may take
+/// it (PreTranslateMessage), and it goes no further.
+bool OfferToWindows(MSG* message);
+
 } // namespace afx_internal

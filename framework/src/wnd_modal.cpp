@@ -16,15 +16,10 @@ bool PumpMessage() {
     CurrentThread().pumpedMessage = message;
     if (!more)
         return false;
-    for (HWND window = message.hwnd; window; window = ::GetAncestor(window, GA_PARENT)) {
-        CWnd* object = CWnd::FromHandlePermanent(window);
-        if (object && object->PreTranslateMessage(&message))
-            return true;
-        if (!(::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD))
-            break;
+    if (!afx_internal::OfferToWindows(&message)) {
+        ::TranslateMessage(&message);
+        ::DispatchMessage(&message);
     }
-    ::TranslateMessage(&message);
-    ::DispatchMessage(&message);
     return true;
 }
 

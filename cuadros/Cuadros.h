@@ -1,6 +1,11 @@
 // All dialogs of the library.
 #pragma once
 
+#include "cuadros/contours/CambiosPendienteTINDlg.h"
+#include "cuadros/contours/CurvadoCodigosDlg.h"
+#include "cuadros/contours/CurvadoDlg.h"
+#include "cuadros/contours/CurvadoTriangulacionDlg.h"
+#include "cuadros/contours/VectoresPendienteDlg.h"
 #include "cuadros/triangulation/GenerarCasesDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"

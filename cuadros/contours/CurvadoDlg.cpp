@@ -1,0 +1,232 @@
+#include "cuadros/contours/CurvadoDlg.h"
+
+#include <afxcmn.h>
+
+#include <cotana/dialogos_dibujo/CurvadoAvanzadoDlg.h>
+
+#include "cuadros/contours/CurvadoCodigosDlg.h"
+#include "cuadros/frame/Ayuda.h"
+#include "cuadros/frame/Controles.h"
+#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/PideFichero.h"
+#include "cuadros/frame/Signo.h"
+#include "cuadros/resources/ContoursIds.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
+
+namespace {
+
+constexpr int NivelMinimo = 1;
+constexpr int NivelMaximo = 10;
+
+/// The type of smoothing whose level is checked.
+constexpr int SuavizadoConNivel = 2;
+
+/// The advanced values in metres, for each unit of the scale's denominator: 0.04 and 0.2 mm on
+/// paper.
+constexpr double Avanzado1PorEscala = 0.00004;
+constexpr double Avanzado2PorEscala = 0.0002;
+
+CString ConDosDecimales(double cota) {
+    CString texto;
+    texto.Format(L"%.2lf", cota);
+    return texto;
+}
+
+} // namespace
+
+CCurvadoDlg::CCurvadoDlg(Cotana::CDataCurvado& data, CDocTemplate* plantilla, double cotaMinima,
+                         double cotaMaxima, int extras, CWnd* padre)
+    : CDialog(IDD_CURVADO, padre), m_pData(&data), m_pPlantilla(plantilla),
+      m_CotaMinimaModelo(cotaMinima), m_CotaMaximaModelo(cotaMaxima), m_Extras(extras) {}
+
+CCurvadoDlg::~CCurvadoDlg() = default;
+
+void CCurvadoDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    // clang-format off
+    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA,         m_pData->m_Equidistancia);
+    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA_MAESTRA, m_pData->m_EquidistanciaMaestra);
+    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_1,   m_pData->m_CurvasARespetar1);
+    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_2,   m_pData->m_CurvasARespetar2);
+    DDX_Text (pDX, IDC_CURVADO_FICHERO_LIMITE,        m_pData->m_FicheroLimite);
+    DDX_Text (pDX, IDC_CURVADO_ESCALA,                m_pData->m_Escala);
+    DDX_Check(pDX, IDC_CURVADO_TEXTO_CURVAS,          m_pData->m_TextoCurvas);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_2,         m_pData->m_TextoValor2);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_1,         m_pData->m_TextoValor1);
+    DDX_Text (pDX, IDC_CURVADO_COTA_MINIMA,           m_pData->m_CotaMinima);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_ENTERO,          m_pData->m_TextoEntero);
+    DDX_Text (pDX, IDC_CURVADO_COTA_MAXIMA,           m_pData->m_CotaMaxima);
+    DDX_Check(pDX, IDC_CURVADO_LIMITE,                m_pData->m_Limite);
+    DDX_Check(pDX, IDC_CURVADO_OPCION_SUAVIZADO,      m_pData->m_OpcionSuavizado);
+    DDX_Check(pDX, IDC_CURVADO_OPCION_1,              m_pData->m_Opcion1);
+    DDX_Check(pDX, IDC_CURVADO_RESPETAR_CURVAS,       m_pData->m_RespetarCurvas);
+    DDX_Check(pDX, IDC_CURVADO_RANGO_COTA,            m_pData->m_RangoCota);
+    DDX_Check(pDX, IDC_CURVADO_OPCION_TEXTO,          m_pData->m_OpcionTexto);
+    DDX_Text (pDX, IDC_CURVADO_NIVEL_SUAVIZADO,       m_pData->m_NivelSuavizado);
+    // clang-format on
+}
+
+BEGIN_MESSAGE_MAP(CCurvadoDlg, CDialog)
+    ON_BN_CLICKED(IDC_CURVADO_TEXTO_CURVAS, &CCurvadoDlg::OnCheckTextoCurvas)
+    ON_BN_CLICKED(IDC_CURVADO_BUSCAR, &CCurvadoDlg::OnBuscar)
+    ON_BN_CLICKED(IDC_CURVADO_LIMITE, &CCurvadoDlg::OnCheckLimite)
+    ON_BN_CLICKED(IDC_CURVADO_AVANZADO, &CCurvadoDlg::OnAvanzado)
+    ON_EN_CHANGE(IDC_CURVADO_ESCALA, &CCurvadoDlg::OnChangeEscalaCurvado)
+    ON_BN_CLICKED(IDC_CURVADO_CODIGOS, &CCurvadoDlg::OnBnClickedCodigosCurvas)
+    ON_CBN_SELCHANGE(IDC_CURVADO_TIPO_SUAVIZADO, &CCurvadoDlg::OnCbnSelchangeTipoSuavizado)
+    ON_BN_CLICKED(IDC_CURVADO_RESPETAR_CURVAS, &CCurvadoDlg::OnCheckRespetarCurvas)
+    ON_BN_CLICKED(IDC_CURVADO_RANGO_COTA, &CCurvadoDlg::OnCheckRangoCota)
+    ON_WM_HELPINFO()
+    ON_COMMAND(ID_HELP, &CCurvadoDlg::OnHelp)
+END_MESSAGE_MAP()
+
+BOOL CCurvadoDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    Cuadros::CentraConIcono(*this, IDI_CURVADO);
+    static_cast<CSpinButtonCtrl*>(GetDlgItem(IDC_CURVADO_NIVEL_FLECHAS))
+        ->SetRange(NivelMinimo, NivelMaximo);
+    TiposSuavizado().SetCurSel(m_pData->m_TipoSuavizado);
+    Cuadros::Muestra(
+        *this, m_Extras,
+        {IDC_CURVADO_GRUPO_SUAVIZADO, IDC_CURVADO_TIPO_SUAVIZADO, IDC_CURVADO_ROTULO_TIPO_SUAVIZADO,
+         IDC_CURVADO_ROTULO_NIVEL, IDC_CURVADO_NIVEL_SUAVIZADO, IDC_CURVADO_NIVEL_FLECHAS,
+         IDC_CURVADO_OPCION_SUAVIZADO, IDC_CURVADO_OPCION_1, IDC_CURVADO_RESPETAR_CURVAS,
+         IDC_CURVADO_CURVAS_A_RESPETAR_1, IDC_CURVADO_CURVAS_A_RESPETAR_2,
+         IDC_CURVADO_ROTULO_RESPETAR_1, IDC_CURVADO_ROTULO_RESPETAR_2});
+    SetDlgItemText(IDC_CURVADO_COTA_MINIMA_MODELO, ConDosDecimales(m_CotaMinimaModelo));
+    SetDlgItemText(IDC_CURVADO_COTA_MAXIMA_MODELO, ConDosDecimales(m_CotaMaximaModelo));
+    UpdateData(FALSE);
+    OnCheckRangoCota();
+    OnCheckRespetarCurvas();
+    OnCheckTextoCurvas();
+    OnCheckLimite();
+    OnCbnSelchangeTipoSuavizado();
+    return TRUE;
+}
+
+CComboBox& CCurvadoDlg::TiposSuavizado() const {
+    return *static_cast<CComboBox*>(GetDlgItem(IDC_CURVADO_TIPO_SUAVIZADO));
+}
+
+void CCurvadoDlg::OnCheckTextoCurvas() {
+    UpdateData(TRUE);
+    Cuadros::Habilita(*this, m_pData->m_TextoCurvas,
+                      {IDC_CURVADO_TEXTO_VALOR_1, IDC_CURVADO_TEXTO_VALOR_2,
+                       IDC_CURVADO_TEXTO_ENTERO, IDC_CURVADO_OPCION_TEXTO});
+}
+
+void CCurvadoDlg::OnBuscar() {
+    UpdateData(TRUE);
+    if (Cuadros::PideFicheroAbrir(m_pData->m_FicheroLimite, &m_pPlantilla))
+        UpdateData(FALSE);
+}
+
+void CCurvadoDlg::OnCheckLimite() {
+    UpdateData(TRUE);
+    Cuadros::Habilita(*this, m_pData->m_Limite, {IDC_CURVADO_FICHERO_LIMITE, IDC_CURVADO_BUSCAR});
+}
+
+void CCurvadoDlg::OnAvanzado() {
+    // Kept: nothing is exchanged first; the scale is that of its last change that was a number.
+    double valor1 = m_pData->m_ValorAvanzado1;
+    double valor2 = m_pData->m_ValorAvanzado2;
+    int porEscala = m_pData->m_AvanzadoPorEscala;
+    Cotana::CCurvadoAvanzadoDlg dialogo(static_cast<int>(m_pData->m_Escala), valor1, valor2,
+                                        porEscala, nullptr);
+    if (dialogo.DoModal() != IDOK)
+        return;
+    m_pData->m_ValorAvanzado1 = valor1;
+    m_pData->m_ValorAvanzado2 = valor2;
+    m_pData->m_AvanzadoPorEscala = porEscala;
+}
+
+void CCurvadoDlg::OnChangeEscalaCurvado() {
+    UpdateData(TRUE);
+    // Kept: the host sees the values follow each key, also when the user then cancels.
+    if (m_pData->m_AvanzadoPorEscala) {
+        m_pData->m_ValorAvanzado1 = m_pData->m_Escala * Avanzado1PorEscala;
+        m_pData->m_ValorAvanzado2 = m_pData->m_Escala * Avanzado2PorEscala;
+    }
+}
+
+void CCurvadoDlg::OnBnClickedCodigosCurvas() {
+    CString codigo1 = m_pData->m_CodigoCurvas1;
+    CString codigo2 = m_pData->m_CodigoCurvas2;
+    CString codigo3 = m_pData->m_CodigoCurvas3;
+    CString codigo4 = m_pData->m_CodigoCurvas4;
+    CString codigo5 = m_pData->m_CodigoCurvas5;
+    CCurvadoCodigosDlg dialogo(codigo1, codigo2, codigo3, codigo4, codigo5, this);
+    if (dialogo.DoModal() != IDOK)
+        return;
+    m_pData->m_CodigoCurvas1 = codigo1;
+    m_pData->m_CodigoCurvas2 = codigo2;
+    m_pData->m_CodigoCurvas3 = codigo3;
+    m_pData->m_CodigoCurvas4 = codigo4;
+    m_pData->m_CodigoCurvas5 = codigo5;
+}
+
+void CCurvadoDlg::OnCbnSelchangeTipoSuavizado() {
+    UpdateData(TRUE);
+    const int tipo = TiposSuavizado().GetCurSel();
+    if (tipo == CB_ERR || TiposSuavizado().GetCount() == 0)
+        return;
+    Cuadros::Habilita(
+        *this, tipo != 0,
+        {IDC_CURVADO_OPCION_SUAVIZADO, IDC_CURVADO_NIVEL_SUAVIZADO, IDC_CURVADO_NIVEL_FLECHAS});
+    UpdateData(FALSE);
+}
+
+void CCurvadoDlg::OnCheckRespetarCurvas() {
+    UpdateData(TRUE);
+    Cuadros::Habilita(*this, m_pData->m_RespetarCurvas,
+                      {IDC_CURVADO_CURVAS_A_RESPETAR_1, IDC_CURVADO_CURVAS_A_RESPETAR_2});
+}
+
+void CCurvadoDlg::OnCheckRangoCota() {
+    UpdateData(TRUE);
+    Cuadros::Habilita(*this, m_pData->m_RangoCota,
+                      {IDC_CURVADO_COTA_MINIMA, IDC_CURVADO_COTA_MAXIMA});
+}
+
+void CCurvadoDlg::OnOK() {
+    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    UpdateData(TRUE);
+    const Cotana::CDataCurvado& data = *m_pData;
+    // Kept: of a hidden list too, and -1 where none is selected.
+    m_pData->m_TipoSuavizado = TiposSuavizado().GetCurSel();
+
+    if (data.m_Escala == 0)
+        return Cuadros::Rechaza(*this, IDS_ESCALA_NO_POSITIVA);
+    if (data.m_TextoCurvas && data.m_TextoValor1 <= 0)
+        return Cuadros::Rechaza(*this, IDS_VALOR_TEXTO_NO_POSITIVO);
+    if (data.m_Equidistancia >= data.m_EquidistanciaMaestra ||
+        Cuadros::Signo(data.m_EquidistanciaMaestra) != 1 ||
+        Cuadros::Signo(data.m_Equidistancia) != 1)
+        return Cuadros::Rechaza(*this, IDS_VALOR_NO_POSITIVO);
+    if (data.m_TextoCurvas && data.m_TextoValor2 <= 0)
+        return Cuadros::Rechaza(*this, IDS_SEGUNDO_VALOR_NO_POSITIVO);
+    if (data.m_Limite && data.m_FicheroLimite.IsEmpty())
+        return Cuadros::Rechaza(*this, IDS_FICHERO_LIMITE_OBLIGATORIO);
+    // Kept: of the third type alone, although every type but the first has a level.
+    if (data.m_TipoSuavizado == SuavizadoConNivel &&
+        (data.m_NivelSuavizado < NivelMinimo || data.m_NivelSuavizado > NivelMaximo))
+        return Cuadros::Rechaza(*this, IDS_NIVEL_SUAVIZADO_FUERA);
+    // The range overlaps the model: it may go beyond it, and be a single elevation.
+    if (data.m_RangoCota &&
+        (m_CotaMinimaModelo > data.m_CotaMaxima || data.m_CotaMinima > m_CotaMaximaModelo ||
+         data.m_CotaMinima > data.m_CotaMaxima))
+        return Cuadros::Rechaza(*this, IDS_RANGO_COTAS_FUERA);
+
+    CDialog::OnOK();
+}
+
+void CCurvadoDlg::OnHelp() {
+    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_CURVADO));
+}
+
+BOOL CCurvadoDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

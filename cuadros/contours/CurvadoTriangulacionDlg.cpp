@@ -1,0 +1,45 @@
+#include "cuadros/contours/CurvadoTriangulacionDlg.h"
+
+#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/Signo.h"
+#include "cuadros/resources/ContoursIds.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
+
+namespace Cotana {
+
+IMPLEMENT_DYNAMIC(CCurvadoTriangulacionDlg, CDialog)
+
+CCurvadoTriangulacionDlg::CCurvadoTriangulacionDlg(double equidistancia, const CString& cadena,
+                                                   CWnd* padre)
+    : CDialog(IDD_CURVADO_TRIANGULACION, padre), m_Equidistancia(equidistancia), m_Cadena(cadena) {}
+
+CCurvadoTriangulacionDlg::~CCurvadoTriangulacionDlg() = default;
+
+void CCurvadoTriangulacionDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Text(pDX, IDC_CURVADO_TRIANGULACION_EQUIDISTANCIA, m_Equidistancia);
+    DDX_Text(pDX, IDC_CURVADO_TRIANGULACION_CADENA, m_Cadena);
+}
+
+BEGIN_MESSAGE_MAP(CCurvadoTriangulacionDlg, CDialog)
+END_MESSAGE_MAP()
+
+BOOL CCurvadoTriangulacionDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
+    return TRUE;
+}
+
+void CCurvadoTriangulacionDlg::OnOK() {
+    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    UpdateData(TRUE);
+    if (Cuadros::Signo(m_Equidistancia) != 1)
+        return Cuadros::Rechaza(*this, IDS_VALOR_NO_POSITIVO);
+    if (m_Cadena.IsEmpty())
+        return Cuadros::Rechaza(*this, IDS_TEXTO_OBLIGATORIO);
+    CDialog::OnOK();
+}
+
+} // namespace Cotana

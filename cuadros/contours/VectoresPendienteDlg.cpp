@@ -1,0 +1,89 @@
+#include "cuadros/contours/VectoresPendienteDlg.h"
+
+#include "cuadros/frame/Ayuda.h"
+#include "cuadros/frame/Controles.h"
+#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/PideFichero.h"
+#include "cuadros/resources/ContoursIds.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
+
+IMPLEMENT_DYNAMIC(CVectoresPendienteDlg, CDialog)
+
+CVectoresPendienteDlg::CVectoresPendienteDlg(Cotana::CDataVectoresPendiente& data,
+                                             CDocTemplate* plantilla, CWnd* padre)
+    : CDialog(IDD_VECTORES_PENDIENTE, padre), m_pData(&data), m_pPlantilla(plantilla) {}
+
+CVectoresPendienteDlg::~CVectoresPendienteDlg() = default;
+
+void CVectoresPendienteDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    // clang-format off
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_1,        m_pData->m_ValorVector1);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_2,        m_pData->m_ValorVector2);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_1,       m_pData->m_Cadena1);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_2,       m_pData->m_Cadena2);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_VALOR_1,  m_pData->m_TextoValor1);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_ENTERO,   m_pData->m_TextoEntero);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_FICHERO_LIMITE, m_pData->m_FicheroLimite);
+    DDX_Check(pDX, IDC_VECTORES_PENDIENTE_LIMITE,         m_pData->m_Limite);
+    // clang-format on
+}
+
+BEGIN_MESSAGE_MAP(CVectoresPendienteDlg, CDialog)
+    ON_BN_CLICKED(IDC_VECTORES_PENDIENTE_BUSCAR, &CVectoresPendienteDlg::OnBuscar)
+    ON_BN_CLICKED(IDC_VECTORES_PENDIENTE_LIMITE, &CVectoresPendienteDlg::OnCheckLimite)
+    ON_WM_HELPINFO()
+    ON_COMMAND(ID_HELP, &CVectoresPendienteDlg::OnHelp)
+END_MESSAGE_MAP()
+
+BOOL CVectoresPendienteDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    Cuadros::CentraConIcono(*this, IDI_PENDIENTES);
+    Cuadros::Muestra(*this, SW_HIDE,
+                     {IDC_VECTORES_PENDIENTE_LEYENDA_1, IDC_VECTORES_PENDIENTE_LEYENDA_2});
+    UpdateData(FALSE);
+    OnCheckLimite();
+    return TRUE;
+}
+
+void CVectoresPendienteDlg::OnBuscar() {
+    UpdateData(TRUE);
+    if (Cuadros::PideFicheroAbrir(m_pData->m_FicheroLimite, &m_pPlantilla))
+        UpdateData(FALSE);
+}
+
+void CVectoresPendienteDlg::OnCheckLimite() {
+    UpdateData(TRUE);
+    Cuadros::Habilita(*this, m_pData->m_Limite,
+                      {IDC_VECTORES_PENDIENTE_FICHERO_LIMITE, IDC_VECTORES_PENDIENTE_BUSCAR});
+}
+
+void CVectoresPendienteDlg::OnOK() {
+    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    UpdateData(TRUE);
+    const Cotana::CDataVectoresPendiente& data = *m_pData;
+
+    // Kept: without the tolerance that other checks have.
+    if (data.m_TextoValor1 <= 0)
+        return Cuadros::Rechaza(*this, IDS_VALOR_TEXTO_NO_POSITIVO);
+    // Kept: the text of this message is that of its own caption.
+    if (data.m_ValorVector1 <= 0 || data.m_ValorVector2 <= 0)
+        return Cuadros::Rechaza(*this, IDS_TITULO_MENSAJES);
+    if (data.m_Limite && data.m_FicheroLimite.IsEmpty())
+        return Cuadros::Rechaza(*this, IDS_FICHERO_LIMITE_OBLIGATORIO);
+    if (data.m_Cadena1.IsEmpty() || data.m_Cadena2.IsEmpty())
+        return Cuadros::Rechaza(*this, IDS_TEXTO_OBLIGATORIO);
+
+    CDialog::OnOK();
+}
+
+void CVectoresPendienteDlg::OnHelp() {
+    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_VECTORES_PENDIENTE));
+}
+
+BOOL CVectoresPendienteDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

@@ -3,7 +3,7 @@
 #include "cuadros/frame/Controles.h"
 
 #include "DialogoPrueba.h"
-#include "Escucha.h"
+#include "checks/Escucha.h"
 #include "kit/kit.h"
 
 #include <utility>

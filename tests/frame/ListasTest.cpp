@@ -2,7 +2,7 @@
 #include "cuadros/frame/Listas.h"
 
 #include "DialogoPrueba.h"
-#include "Escucha.h"
+#include "checks/Escucha.h"
 #include "kit/kit.h"
 
 #include <string>

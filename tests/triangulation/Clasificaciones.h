@@ -2,7 +2,7 @@
 // opened.
 #pragma once
 
-#include "Comprobaciones.h"
+#include "checks/Comprobaciones.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/Triangulacion2DDlg.h"
 #include "cuadros/triangulation/Triangulacion3DDlg.h"

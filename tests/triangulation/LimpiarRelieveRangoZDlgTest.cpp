@@ -35,10 +35,8 @@ TEST_F(LimpiarRelieveRangoZDlg, MnemonicsReachTheirControls) {
 }
 
 TEST_F(LimpiarRelieveRangoZDlg, HasClassInformationOfItsOwn) {
-    const CLimpiarRelieveRangoZDlg dlg(data);
-    EXPECT_EQ(dlg.GetRuntimeClass(), RUNTIME_CLASS(CLimpiarRelieveRangoZDlg));
-    EXPECT_STREQ(dlg.GetRuntimeClass()->m_lpszClassName, "CLimpiarRelieveRangoZDlg");
-    EXPECT_EQ(dlg.GetRuntimeClass()->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+    CompruebaClase(CLimpiarRelieveRangoZDlg(data), RUNTIME_CLASS(CLimpiarRelieveRangoZDlg),
+                   "CLimpiarRelieveRangoZDlg");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The two cleaning dialogs for their tests: what each has of its own, and how it is opened.
 #pragma once
 
-#include "Comprobaciones.h"
+#include "checks/Comprobaciones.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/LimpiarRelieveDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"

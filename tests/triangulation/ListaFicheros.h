@@ -14,10 +14,10 @@
 //     };
 #pragma once
 
-#include "Comprobaciones.h"
+#include "checks/Comprobaciones.h"
+#include "checks/Escucha.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
-#include "frame/Escucha.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
@@ -707,13 +707,8 @@ TYPED_TEST_P(ListaFicheros, AnswersNoRequestForHelp) {
 
 TYPED_TEST_P(ListaFicheros, HasClassInformationOfItsOwn) {
     using Clase = typename TypeParam::Clase;
-    CRuntimeClass* const clase = Clase::GetThisClass();
-    auto dialogo = this->Dialogo();
-    EXPECT_EQ(dialogo.GetRuntimeClass(), clase);
-    EXPECT_EQ(clase, RUNTIME_CLASS(Clase));
-    EXPECT_STREQ(clase->m_lpszClassName, TypeParam::Nombre);
-    EXPECT_TRUE(clase->IsDerivedFrom(RUNTIME_CLASS(CDialog)));
-    EXPECT_TRUE(dialogo.IsKindOf(RUNTIME_CLASS(CDialog)));
+    EXPECT_EQ(Clase::GetThisClass(), RUNTIME_CLASS(Clase));
+    CompruebaClase(this->Dialogo(), RUNTIME_CLASS(Clase), TypeParam::Nombre);
 }
 
 TYPED_TEST_P(ListaFicheros, HostCallsTheHandlersItself) {

@@ -3,7 +3,7 @@
 // all that he typed is in the record, whether he then takes OK or not.
 #include "cuadros/triangulation/SuavizarTINDlg.h"
 
-#include "Comprobaciones.h"
+#include "checks/Comprobaciones.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
@@ -303,31 +303,13 @@ TEST_F(SuavizarTINDlg, EnterIsOkAndEscapeIsCancel) {
 
 TEST_F(SuavizarTINDlg, F1AndTheHelpButtonOpenItsPage) {
     Abre([](kit::Dialog& dialogo) {
-        for (const int control : {Factor, Iterar}) {
-            dialogo.focusOn(control);
-            dialogo.help();
-            EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
-        }
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
+        CompruebaAyuda(dialogo, {Factor, Iterar}, 151186);
         dialogo.press(IDCANCEL);
     });
 }
 
 TEST_F(SuavizarTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
-    ConAyudaPropia<CSuavizarTINDlg> derivado(data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
-        dialogo.help();
-        EXPECT_EQ(derivado.veces, 1);
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(derivado.veces, 2);
-        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
-        EXPECT_EQ(derivado.veces, 3);
-        dialogo.press(IDCANCEL);
-    });
-    guion.run([&] { return derivado.DoModal(); });
-    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+    CompruebaAyudaDerivada<CSuavizarTINDlg>(data);
 }
 
 // A host's own class on top of the dialog.
@@ -370,10 +352,7 @@ TEST_F(SuavizarTINDlg, HostCallsTheHandlerItself) {
 }
 
 TEST_F(SuavizarTINDlg, HasClassInformationOfItsOwn) {
-    const CSuavizarTINDlg dlg(data);
-    EXPECT_EQ(dlg.GetRuntimeClass(), RUNTIME_CLASS(CSuavizarTINDlg));
-    EXPECT_STREQ(dlg.GetRuntimeClass()->m_lpszClassName, "CSuavizarTINDlg");
-    EXPECT_EQ(dlg.GetRuntimeClass()->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+    CompruebaClase(CSuavizarTINDlg(data), RUNTIME_CLASS(CSuavizarTINDlg), "CSuavizarTINDlg");
 }
 
 TEST_F(SuavizarTINDlg, LeavesNothingBehind) {

@@ -198,10 +198,7 @@ TEST_F(Triangulacion2DDlg, MnemonicsReachTheirControls) {
 }
 
 TEST_F(Triangulacion2DDlg, HasClassInformationOfItsOwn) {
-    const auto* const clase = Crea()->GetRuntimeClass();
-    EXPECT_EQ(clase, RUNTIME_CLASS(CTriangulacion2DDlg));
-    EXPECT_STREQ(clase->m_lpszClassName, "CTriangulacion2DDlg");
-    EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+    CompruebaClase(*Crea(), RUNTIME_CLASS(CTriangulacion2DDlg), "CTriangulacion2DDlg");
 }
 
 /// Shows the members that a derived class sees.

@@ -186,10 +186,7 @@ TEST_F(Triangulacion3DDlg, MnemonicsReachTheirControls) {
 }
 
 TEST_F(Triangulacion3DDlg, HasClassInformationOfItsOwn) {
-    const auto* const clase = Crea()->GetRuntimeClass();
-    EXPECT_EQ(clase, RUNTIME_CLASS(CTriangulacion3DDlg));
-    EXPECT_STREQ(clase->m_lpszClassName, "CTriangulacion3DDlg");
-    EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
+    CompruebaClase(*Crea(), RUNTIME_CLASS(CTriangulacion3DDlg), "CTriangulacion3DDlg");
 }
 
 /// Shows the members that a derived class sees.

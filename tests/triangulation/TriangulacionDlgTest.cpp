@@ -5,12 +5,10 @@
 // checks what he typed, says what is wrong and waits, or closes and leaves it all in the record.
 #include "cuadros/triangulation/TriangulacionDlg.h"
 
+#include "checks/Comprobaciones.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
-#include "frame/Escucha.h"
-#include "kit/app/RecordingApp.h"
-#include "kit/kit.h"
 
 #include <functional>
 #include <initializer_list>
@@ -202,32 +200,12 @@ TEST_F(TriangulacionDlg, ShowsTheRecord) {
 }
 
 TEST_F(TriangulacionDlg, OpensInTheMiddleOfItsOwner) {
-    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
-    kit::Script script;
-    script.onDialog([&](kit::Dialog& dialogo) {
-        EXPECT_EQ(dialogo.owner(), ventana);
-        RECT duena{};
-        GetWindowRect(ventana, &duena);
-        const RECT marco = dialogo.rect();
-        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
-        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
-        dialogo.press(IDCANCEL);
-    });
-    script.run([&] { return CTriangulacionDlg(data, CWnd::FromHandle(ventana)).DoModal(); });
-    DestroyWindow(ventana);
+    CompruebaCentro([this](CWnd* duena) { return CTriangulacionDlg(data, duena).DoModal(); });
 }
 
 TEST_F(TriangulacionDlg, HasItsSmallIconOnly) {
     Abre([](kit::Dialog& dialogo) {
-        const auto nombre = MAKEINTRESOURCEW(IDI_TRIANGULACION);
-        const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
-        ASSERT_NE(propio, nullptr);
-        const auto icono = [&](WPARAM cual) {
-            return reinterpret_cast<HICON>(SendMessageW(dialogo.handle(), WM_GETICON, cual, 0));
-        };
-        EXPECT_EQ(icono(ICON_SMALL), propio);
-        EXPECT_EQ(icono(ICON_BIG), nullptr);
+        CompruebaIcono(dialogo, IDI_TRIANGULACION);
         dialogo.press(IDCANCEL);
     });
 }

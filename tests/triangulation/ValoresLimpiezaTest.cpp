@@ -141,30 +141,13 @@ TYPED_TEST(ValoresLimpieza, TypingOverTheFirstOneNeedsNoMouse) {
 
 TYPED_TEST(ValoresLimpieza, F1AndTheHelpButtonOpenTheSamePage) {
     this->Abre([](kit::Dialog& dialogo) {
-        const auto suPagina = PaginaDeAyuda(TestFixture::De::contexto);
-        dialogo.focusOn(TestFixture::B);
-        dialogo.help();
-        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
+        CompruebaAyuda(dialogo, {TestFixture::A, TestFixture::B}, TestFixture::De::contexto);
         dialogo.press(IDCANCEL);
     });
 }
 
 TYPED_TEST(ValoresLimpieza, HelpOfADerivedClassIsTheOneThatOpens) {
-    ConAyudaPropia<TypeParam> derivado(this->data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
-        dialogo.help();
-        EXPECT_EQ(derivado.veces, 1);
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(derivado.veces, 2);
-        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
-        EXPECT_EQ(derivado.veces, 3);
-        dialogo.press(IDCANCEL);
-    });
-    guion.run([&] { return derivado.DoModal(); });
-    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+    CompruebaAyudaDerivada<TypeParam>(this->data);
 }
 
 // A host's own class on top of the dialog.

@@ -1,7 +1,7 @@
-// What the tests of several dialogs of the subsystem look at.
+// What the tests of many dialogs look at.
 #pragma once
 
-#include "frame/Escucha.h"
+#include "checks/Escucha.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
@@ -153,4 +153,41 @@ public:
 /// The request that asks for the page with this context of the host's help file.
 inline std::vector<kit::HelpRequest> PaginaDeAyuda(DWORD_PTR contexto) {
     return {{contexto, 15}};
+}
+
+/// F1 on each of these controls, and the Help button, open this page of the host's help file.
+inline void CompruebaAyuda(kit::Dialog& dialogo, const std::vector<int>& controles,
+                           DWORD_PTR contexto) {
+    for (const int control : controles) {
+        dialogo.focusOn(control);
+        dialogo.help();
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(contexto)) << "on " << control;
+    }
+    dialogo.press(ID_HELP);
+    EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(contexto));
+}
+
+/// The help of a class derived from `Dlg` is the one that opens.
+template <class Dlg, class... Argumentos>
+void CompruebaAyudaDerivada(Argumentos&&... argumentos) {
+    ConAyudaPropia<Dlg> derivado(std::forward<Argumentos>(argumentos)...);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        dialogo.help();
+        EXPECT_EQ(derivado.veces, 1);
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(derivado.veces, 2);
+        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
+        EXPECT_EQ(derivado.veces, 3);
+        dialogo.press(IDCANCEL);
+    });
+    guion.run([&] { return derivado.DoModal(); });
+    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+}
+
+/// A dialog's class has information of its own, directly over `CDialog`.
+inline void CompruebaClase(const CObject& dialogo, const CRuntimeClass* clase, const char* nombre) {
+    EXPECT_EQ(dialogo.GetRuntimeClass(), clase);
+    EXPECT_STREQ(clase->m_lpszClassName, nombre);
+    EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
 }

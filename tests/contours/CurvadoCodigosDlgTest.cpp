@@ -1,0 +1,5 @@
+#include "cuadros/contours/CurvadoCodigosDlg.h"
+
+#include "checks/Comprobaciones.h"
+#include "cuadros/resources/ContoursIds.h"
+#include "cuadros/resources/IconIds.h"

@@ -225,17 +225,9 @@ void ContourDialog::accept() {
     read();
     m_data.m_TipoSuavizado = static_cast<int>(SendMessageW(m_type, CB_GETCURSEL, 0, 0));
     if (const UINT fault = firstFault())
-        return refuse(fault);
+        return refuse(m_dialog, m_texts, fault);
     if (read())
         EndDialog(m_dialog, IDOK);
-}
-
-void ContourDialog::refuse(UINT message) {
-    wchar_t text[longestText];
-    wchar_t caption[longestText];
-    LoadStringW(m_texts, message, text, longestText);
-    LoadStringW(m_texts, IDS_TITULO_MENSAJES, caption, longestText);
-    MessageBoxW(m_dialog, text, caption, MB_ICONERROR);
 }
 
 } // namespace bench::raw

@@ -33,7 +33,6 @@ private:
     void typeChanged();
     UINT firstFault() const;
     void accept();
-    void refuse(UINT message);
 
     Cotana::CDataCurvado& m_data;
     double m_lowest;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "cuadros/resources/StringIds.h"
+
 namespace bench::raw {
 
 void centre(HWND dialog) {
@@ -21,6 +23,14 @@ void centre(HWND dialog) {
     const LONG y = std::max(
         limits.top, std::min((area.top + area.bottom - height) / 2, limits.bottom - height));
     SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void refuse(HWND dialog, HMODULE texts, UINT message) {
+    wchar_t text[longestText];
+    wchar_t caption[longestText];
+    LoadStringW(texts, message, text, longestText);
+    LoadStringW(texts, IDS_TITULO_MENSAJES, caption, longestText);
+    MessageBoxW(dialog, text, caption, MB_ICONERROR);
 }
 
 LPCDLGTEMPLATEW findTemplate(HMODULE module, int number) {

@@ -114,6 +114,9 @@ inline void setRedraw(HWND list, bool drawn) {
 /// Puts a dialog into the middle of its owner, within the work area.
 void centre(HWND dialog);
 
+/// Shows a message of the library, by number, with the library's caption.
+void refuse(HWND dialog, HMODULE texts, UINT message);
+
 /// The bytes of a dialog template.
 LPCDLGTEMPLATEW findTemplate(HMODULE module, int number);
 

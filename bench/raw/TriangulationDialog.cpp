@@ -203,27 +203,19 @@ void TriangulationDialog::accept() {
     const CDigiTab breaklines = selected(m_breaklines, m_data.m_CodigosRuptura);
     constexpr double tolerance = 1e-7;
     if (codes.Cantidad() == 0)
-        return refuse(IDS_SIN_CODIGOS);
+        return refuse(m_dialog, m_texts, IDS_SIN_CODIGOS);
     if (m_data.m_LimiteInferior >= m_data.m_LimiteSuperior)
-        return refuse(IDS_LIMITES_NO_CRECIENTES);
+        return refuse(m_dialog, m_texts, IDS_LIMITES_NO_CRECIENTES);
     if (m_data.m_DistanciaNoUnir <= tolerance)
-        return refuse(IDS_VALOR_NO_POSITIVO);
+        return refuse(m_dialog, m_texts, IDS_VALOR_NO_POSITIVO);
     if (m_data.m_Nombre.IsEmpty())
-        return refuse(IDS_TEXTO_OBLIGATORIO);
+        return refuse(m_dialog, m_texts, IDS_TEXTO_OBLIGATORIO);
     m_data.m_Codigos = codes;
     m_data.m_CodigosRuptura = breaklines;
     m_data.m_CodigosExtra1.clear();
     m_data.m_CodigosExtra2.clear();
     if (read())
         EndDialog(m_dialog, IDOK);
-}
-
-void TriangulationDialog::refuse(UINT message) {
-    wchar_t text[longestText];
-    wchar_t caption[longestText];
-    LoadStringW(m_texts, message, text, longestText);
-    LoadStringW(m_texts, IDS_TITULO_MENSAJES, caption, longestText);
-    MessageBoxW(m_dialog, text, caption, MB_ICONERROR);
 }
 
 } // namespace bench::raw

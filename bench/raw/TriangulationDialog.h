@@ -32,7 +32,6 @@ private:
     void enableOk();
     void enableBreaklines();
     void accept();
-    void refuse(UINT message);
 
     Cotana::CDataTriangulacion& m_data;
     HMODULE m_texts;

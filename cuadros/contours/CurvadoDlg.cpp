@@ -34,6 +34,10 @@ CString ConDosDecimales(double cota) {
     return texto;
 }
 
+CComboBox& TiposSuavizado(const CWnd& dialogo) {
+    return *static_cast<CComboBox*>(dialogo.GetDlgItem(IDC_CURVADO_TIPO_SUAVIZADO));
+}
+
 } // namespace
 
 CCurvadoDlg::CCurvadoDlg(Cotana::CDataCurvado& data, CDocTemplate* plantilla, double cotaMinima,
@@ -87,7 +91,7 @@ BOOL CCurvadoDlg::OnInitDialog() {
     Cuadros::CentraConIcono(*this, IDI_CURVADO);
     static_cast<CSpinButtonCtrl*>(GetDlgItem(IDC_CURVADO_NIVEL_FLECHAS))
         ->SetRange(NivelMinimo, NivelMaximo);
-    TiposSuavizado().SetCurSel(m_pData->m_TipoSuavizado);
+    TiposSuavizado(*this).SetCurSel(m_pData->m_TipoSuavizado);
     Cuadros::Muestra(
         *this, m_Extras,
         {IDC_CURVADO_GRUPO_SUAVIZADO, IDC_CURVADO_TIPO_SUAVIZADO, IDC_CURVADO_ROTULO_TIPO_SUAVIZADO,
@@ -104,10 +108,6 @@ BOOL CCurvadoDlg::OnInitDialog() {
     OnCheckLimite();
     OnCbnSelchangeTipoSuavizado();
     return TRUE;
-}
-
-CComboBox& CCurvadoDlg::TiposSuavizado() const {
-    return *static_cast<CComboBox*>(GetDlgItem(IDC_CURVADO_TIPO_SUAVIZADO));
 }
 
 void CCurvadoDlg::OnCheckTextoCurvas() {
@@ -169,8 +169,9 @@ void CCurvadoDlg::OnBnClickedCodigosCurvas() {
 
 void CCurvadoDlg::OnCbnSelchangeTipoSuavizado() {
     UpdateData(TRUE);
-    const int tipo = TiposSuavizado().GetCurSel();
-    if (tipo == CB_ERR || TiposSuavizado().GetCount() == 0)
+    const CComboBox& tipos = TiposSuavizado(*this);
+    const int tipo = tipos.GetCurSel();
+    if (tipo == CB_ERR || tipos.GetCount() == 0)
         return;
     Cuadros::Habilita(
         *this, tipo != 0,
@@ -195,7 +196,7 @@ void CCurvadoDlg::OnOK() {
     UpdateData(TRUE);
     const Cotana::CDataCurvado& data = *m_pData;
     // Kept: of a hidden list too, and -1 where none is selected.
-    m_pData->m_TipoSuavizado = TiposSuavizado().GetCurSel();
+    m_pData->m_TipoSuavizado = TiposSuavizado(*this).GetCurSel();
 
     if (data.m_Escala == 0)
         return Cuadros::Rechaza(*this, IDS_ESCALA_NO_POSITIVA);

@@ -49,7 +49,4 @@ protected:
     double m_CotaMinimaModelo;
     double m_CotaMaximaModelo;
     int m_Extras;
-
-private:
-    CComboBox& TiposSuavizado() const;
 };

@@ -1,5 +1,9 @@
 #include "sample/Conversacion.h"
 
+#include "sample/conversaciones/CambiosPendienteTIN.h"
+#include "sample/conversaciones/Curvado.h"
+#include "sample/conversaciones/CurvadoCodigos.h"
+#include "sample/conversaciones/CurvadoTriangulacion.h"
 #include "sample/conversaciones/GenerarCases.h"
 #include "sample/conversaciones/LimpiarRelieve.h"
 #include "sample/conversaciones/LimpiarRelieveRangoZ.h"
@@ -8,6 +12,7 @@
 #include "sample/conversaciones/Triangulacion2D.h"
 #include "sample/conversaciones/Triangulacion3D.h"
 #include "sample/conversaciones/Triangulacion3DDisco.h"
+#include "sample/conversaciones/VectoresPendiente.h"
 
 const std::vector<Conversacion>& Conversaciones() {
     static const std::vector<Conversacion> conversaciones = {
@@ -29,6 +34,19 @@ const std::vector<Conversacion>& Conversaciones() {
         {L"Triangulation", L"Cleaning by elevation", L"LimpiarRelieveRangoZDlg", 150139,
          PreparaLimpiarRelieveRangoZ, AbreLimpiarRelieveRangoZ, FichaLimpiarRelieveRangoZ,
          ConduceLimpiarRelieveRangoZ},
+        {L"Contours and slopes", L"Contour options", L"CurvadoDlg", 151165, PreparaCurvado,
+         AbreCurvado, FichaCurvado, ConduceCurvado},
+        {L"Contours and slopes", L"Contour codes", L"CurvadoCodigosDlg", 151074,
+         PreparaCurvadoCodigos, AbreCurvadoCodigos, FichaCurvadoCodigos, ConduceCurvadoCodigos},
+        {L"Contours and slopes", L"Contours of a triangulation", L"CurvadoTriangulacionDlg", 0,
+         PreparaCurvadoTriangulacion, AbreCurvadoTriangulacion, FichaCurvadoTriangulacion,
+         ConduceCurvadoTriangulacion},
+        {L"Contours and slopes", L"Slope vectors", L"VectoresPendienteDlg", 151299,
+         PreparaVectoresPendiente, AbreVectoresPendiente, FichaVectoresPendiente,
+         ConduceVectoresPendiente},
+        {L"Contours and slopes", L"Slope changes", L"CambiosPendienteTINDlg", 151185,
+         PreparaCambiosPendienteTIN, AbreCambiosPendienteTIN, FichaCambiosPendienteTIN,
+         ConduceCambiosPendienteTIN},
     };
     return conversaciones;
 }

@@ -6,6 +6,9 @@
 
 #include "cotana/entidad/DigiTab.h"
 #include "cotana/entidad/InfoClasificacion.h"
+#include "cotana/modelo/DataCambiosPendiente.h"
+#include "cotana/modelo/DataCurvado.h"
+#include "cotana/modelo/DataVectoresPendiente.h"
 #include "cotana/triangulacion/DataLimpiarRelieve.h"
 #include "cotana/triangulacion/DataLimpiarRelieveRangoZ.h"
 #include "cotana/triangulacion/DataSuavizarTIN.h"
@@ -38,11 +41,19 @@ struct DatosGenerarCases {
     double valor = 100;
 };
 
+struct DatosCurvadoTriangulacion {
+    double equidistancia = 1; ///< m.
+    CString cadena;           ///< Code of the contours; they have none yet.
+};
+
 /// What the host owns: the survey, and one record for each conversation.
 struct Terreno {
     Cotana::CDigiTab codigos;
     std::vector<Cotana::CInfoClasificacion> clasificaciones;
     CString carpetaNubes; ///< Where the survey's point clouds are.
+    /// Lowest and highest elevation of the terrain model, m.
+    double cotaMinima = 150.25;
+    double cotaMaxima = 398.60;
 
     Cotana::CDataTriangulacion triangulacion;
     DatosTriangulacion2D triangulacion2D;
@@ -52,4 +63,26 @@ struct Terreno {
     Cotana::CDataSuavizarTIN suavizado;
     Cotana::CDataLimpiarRelieve limpieza;
     Cotana::CDataLimpiarRelieveRangoZ limpiezaRangoZ;
+    Cotana::CDataCurvado curvado = {
+        .m_ValorAvanzado1 = 0.2,
+        .m_ValorAvanzado2 = 1,
+        .m_CodigoCurvas1 = L"CN",
+        .m_CodigoCurvas2 = L"CNM",
+        .m_CodigoCurvas3 = L"CND",
+        .m_CodigoCurvas4 = L"CNMD",
+        .m_CodigoCurvas5 = L"CNT",
+        .m_CurvasARespetar1 = L"CN",
+        .m_CurvasARespetar2 = L"CNM",
+        .m_FicheroLimite = {},
+        .m_Escala = 5000,
+        .m_Equidistancia = 5,
+        .m_EquidistanciaMaestra = 25,
+    };
+    DatosCurvadoTriangulacion curvadoTriangulacion;
+    Cotana::CDataVectoresPendiente vectoresPendiente = {
+        .m_Cadena1 = L"SLP",
+        .m_Cadena2 = L"SLP-T",
+        .m_FicheroLimite = {},
+    };
+    Cotana::CDataCambiosPendiente cambiosPendiente = {.m_CadenaCambio = L"SLC"};
 };

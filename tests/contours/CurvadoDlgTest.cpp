@@ -1,5 +1,875 @@
-#include "cuadros/contours/CurvadoDlg.h"
+// A surveyor is about to draw contours. He sees how they were drawn last time and the elevations
+// of his model; a check box or a type of smoothing enables what counts with it, and with each such
+// click all that he typed is in the record, whether he then takes OK or not.
+#include "contours/Curvado.h"
 
-#include "checks/Comprobaciones.h"
-#include "cuadros/resources/ContoursIds.h"
-#include "cuadros/resources/IconIds.h"
+#include <algorithm>
+#include <list>
+#include <optional>
+#include <utility>
+
+namespace {
+
+class CurvadoDlg : public Curvado {};
+
+// What the user sees first.
+
+TEST_F(CurvadoDlg, ShowsTheRecord) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Escala), L"1000");
+        EXPECT_EQ(dialogo.text(Equidistancia), L"5");
+        EXPECT_EQ(dialogo.text(EquidistanciaMaestra), L"25");
+        EXPECT_TRUE(dialogo.checked(TextoCurvas));
+        EXPECT_EQ(dialogo.text(TextoValor1), L"2.5");
+        EXPECT_EQ(dialogo.text(TextoValor2), L"120");
+        EXPECT_EQ(dialogo.text(TextoEntero), L"3");
+        EXPECT_FALSE(dialogo.checked(OpcionTexto));
+        EXPECT_TRUE(dialogo.checked(RangoCota));
+        EXPECT_EQ(dialogo.text(CotaMinima), L"180");
+        EXPECT_EQ(dialogo.text(CotaMaxima), L"320.5");
+        EXPECT_TRUE(dialogo.checked(Limite));
+        EXPECT_EQ(dialogo.text(FicheroLimite), L"C:\\limit.dxf");
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 2);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"4");
+        EXPECT_TRUE(dialogo.checked(OpcionSuavizado));
+        EXPECT_FALSE(dialogo.checked(Opcion1));
+        EXPECT_TRUE(dialogo.checked(RespetarCurvas));
+        EXPECT_EQ(dialogo.text(CurvasARespetar1), L"N1");
+        EXPECT_EQ(dialogo.text(CurvasARespetar2), L"N2");
+        dialogo.picture(L"CurvadoDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ShowsTheOtherStateOfEachCheckBox) {
+    NadaEnUso();
+    data.m_OpcionSuavizado = FALSE;
+    data.m_Opcion1 = TRUE;
+    data.m_OpcionTexto = TRUE;
+    Abre([](kit::Dialog& dialogo) {
+        for (const int control : {TextoCurvas, RangoCota, Limite, OpcionSuavizado, RespetarCurvas})
+            EXPECT_FALSE(dialogo.checked(control)) << control;
+        EXPECT_TRUE(dialogo.checked(Opcion1));
+        EXPECT_TRUE(dialogo.checked(OpcionTexto));
+        dialogo.picture(L"CurvadoDlgNothingInUse");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ShowsTheElevationsOfTheModelWithTwoDecimals) {
+    struct {
+        double minima, maxima;
+        const wchar_t *textoMinima, *textoMaxima;
+    } const casos[] = {
+        {150, 400, L"150.00", L"400.00"},
+        {-12.346, -0.004, L"-12.35", L"-0.00"},
+        {99.994, 99.996, L"99.99", L"100.00"},
+        {0, 1234567.891, L"0.00", L"1234567.89"},
+        {7, 3, L"7.00", L"3.00"}, // what the host gives is not put in order
+    };
+    for (const auto& caso : casos) {
+        cotaMinimaModelo = caso.minima;
+        cotaMaximaModelo = caso.maxima;
+        Abre([&](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.text(CotaMinimaModelo), caso.textoMinima);
+            EXPECT_EQ(dialogo.text(CotaMaximaModelo), caso.textoMaxima);
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+TEST_F(CurvadoDlg, OpensInTheMiddleOfItsOwner) {
+    CompruebaCentro([this](CWnd* duena) { return Dialogo(duena).DoModal(); });
+}
+
+TEST_F(CurvadoDlg, HasItsSmallIconOnly) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_CURVADO);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, OpeningReadsBackWhatTheControlsShow) {
+    data.m_Equidistancia = 0.1 + 0.2;
+    data.m_Opcion1 = 7;
+    data.m_RangoCota = -1;
+    data.m_ValorAvanzado1 = 0.1 + 0.2; // shown by no control
+    Abre([this](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Equidistancia), L"0.3");
+        EXPECT_EQ(data.m_Equidistancia, 0.3);
+        // What a box of two states makes of a third one is the system's.
+        EXPECT_EQ(data.m_Opcion1, dialogo.checked(Opcion1));
+        EXPECT_EQ(data.m_RangoCota, dialogo.checked(RangoCota));
+        EXPECT_EQ(dialogo.enabled(CotaMinima), dialogo.checked(RangoCota));
+        EXPECT_EQ(data.m_ValorAvanzado1, 0.1 + 0.2);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// Notes what happens to the dialog and its controls from the first exchange of its opening on.
+class CApuntado : public CCurvadoDlg {
+public:
+    using CCurvadoDlg::CCurvadoDlg;
+
+    std::function<void(CApuntado&)> alEmpezar = [](CApuntado&) {};
+    std::string pasos;
+
+    BOOL OnInitDialog() override {
+        const BOOL resultado = CCurvadoDlg::OnInitDialog();
+        m_Escuchas.clear();
+        return resultado;
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        if (!std::exchange(m_Empezado, true)) {
+            alEmpezar(*this);
+            Atiende(m_hWnd);
+            for (CWnd* control = GetWindow(GW_CHILD); control; control = control->GetNextWindow())
+                Atiende(control->m_hWnd);
+        }
+        Apunta(pDX->m_bSaveAndValidate ? "S" : "M");
+        CCurvadoDlg::DoDataExchange(pDX);
+    }
+
+private:
+    void Atiende(HWND ventana) {
+        const std::string quien = ' ' + std::to_string(::GetDlgCtrlID(ventana));
+        m_Escuchas.emplace_back(ventana, [=, this](UINT mensaje, WPARAM w, LPARAM l) {
+            Oye(ventana == m_hWnd, quien, mensaje, w, l);
+            return std::optional<LRESULT>();
+        });
+    }
+    void Oye(bool dialogo, const std::string& quien, UINT mensaje, WPARAM w, LPARAM l) {
+        switch (mensaje) {
+        case WM_WINDOWPOSCHANGED:
+            if (dialogo)
+                Apunta("moved");
+            break;
+        case WM_SETICON:
+            Apunta("icon");
+            break;
+        case UDM_SETRANGE:
+        case UDM_SETRANGE32:
+            Apunta("range" + quien);
+            break;
+        case CB_SETCURSEL:
+            Apunta("select " + std::to_string(static_cast<int>(w)));
+            break;
+        case WM_SHOWWINDOW:
+            if (!dialogo)
+                Apunta((w ? "show" : "hide") + quien);
+            break;
+        case WM_SETTEXT:
+            if (quien == " 20074" || quien == " 20075")
+                Apunta(kit::utf8(reinterpret_cast<const wchar_t*>(l)) + " in" + quien);
+            break;
+        case WM_ENABLE:
+            Apunta((w ? "enable" : "disable") + quien);
+            break;
+        default:
+            break;
+        }
+    }
+    void Apunta(const std::string& paso) { pasos += paso + '\n'; }
+
+    bool m_Empezado = false;
+    std::list<Escucha> m_Escuchas;
+};
+
+TEST_F(CurvadoDlg, OpeningTakesItsStepsInTheirOrder) {
+    NadaEnUso();
+    extras = SW_HIDE;
+    auto dialogo = Dialogo<CApuntado>();
+    Conduce(dialogo, [](kit::Dialog& abierto) { abierto.press(IDCANCEL); });
+    EXPECT_EQ(dialogo.pasos,
+              "M\n"
+              "moved\nicon\nrange 1024\nselect 0\n"
+              "hide 20024\nhide 20210\nhide 20208\nhide 20209\nhide 20206\nhide 1024\n"
+              "hide 18285\nhide 20212\nhide 20213\nhide 20083\nhide 20084\nhide 20214\n"
+              "hide 20215\n"
+              "150.00 in 20075\n400.00 in 20074\n"
+              "M\n"
+              "S\ndisable 20091\ndisable 20093\n"
+              "S\ndisable 20083\ndisable 20084\n"
+              "S\ndisable 20090\ndisable 20089\ndisable 20092\ndisable 20217\n"
+              "S\ndisable 20086\ndisable 20085\n"
+              "S\ndisable 18285\ndisable 20206\ndisable 1024\n"
+              "M\n");
+}
+
+TEST_F(CurvadoDlg, OpeningGoesOnWhereAnExchangeIsRefused) {
+    NadaEnUso();
+    Controles esperados = DeSuavizado;
+    for (const Casilla& casilla : Casillas)
+        Une(esperados, casilla.dependientes);
+    for (int cual = 1; cual <= 5; ++cual) {
+        auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
+        desconfiado.rechazado = cual;
+        Conduce(desconfiado, [&](kit::Dialog& dialogo) {
+            EXPECT_EQ(Deshabilitados(dialogo), esperados) << "exchange " << cual;
+            EXPECT_EQ(dialogo.focus(), Escala);
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+// The group that a host may hide.
+
+TEST_F(CurvadoDlg, HostHidesTheSmoothingAndTheContoursToRespectAndNothingElse) {
+    extras = SW_HIDE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(Ocultos(dialogo), Controles(Ocultables.begin(), Ocultables.end()));
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+        dialogo.picture(L"CurvadoDlgHidden");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, HostShowsEveryControl) {
+    for (const int como : {SW_SHOWNORMAL, SW_SHOW}) {
+        extras = como;
+        Abre([&](kit::Dialog& dialogo) {
+            EXPECT_EQ(Ocultos(dialogo), Controles{}) << como;
+            for (const int control : Ocultables)
+                EXPECT_FALSE(IsIconic(dialogo.control(control))) << control;
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+TEST_F(CurvadoDlg, GroupIsShownAlsoWhereItWasHidden) {
+    NadaEnUso();
+    for (const int como : {SW_SHOWNORMAL, SW_SHOWNOACTIVATE, SW_SHOW, SW_SHOWNA}) {
+        extras = como;
+        auto dialogo = Dialogo<CApuntado>();
+        dialogo.alEmpezar = [](CApuntado& este) {
+            for (const int control : Ocultables)
+                este.GetDlgItem(control)->ShowWindow(SW_HIDE);
+        };
+        Conduce(dialogo, [&](kit::Dialog& abierto) {
+            EXPECT_EQ(Ocultos(abierto), Controles{}) << como;
+            abierto.press(IDCANCEL);
+        });
+        std::string mostrados;
+        for (const int control : Ocultables)
+            mostrados += "show " + std::to_string(control) + '\n';
+        EXPECT_NE(dialogo.pasos.find("select 0\n" + mostrados + "150.00 in"), std::string::npos)
+            << "command " << como << ":\n"
+            << dialogo.pasos;
+    }
+}
+
+TEST_F(CurvadoDlg, ShowCommandIsPassedToWindowsAsItIs) {
+    extras = SW_SHOWMINIMIZED;
+    Abre([](kit::Dialog& dialogo) {
+        const auto minimizados = ControlesQue(dialogo, [](HWND c) -> bool { return IsIconic(c); });
+        EXPECT_EQ(minimizados, Controles(Ocultables.begin(), Ocultables.end()));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// The check boxes, and what each enables.
+
+TEST_F(CurvadoDlg, EverythingInUseStartsEnabled) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, CheckBoxThatIsClearStartsWithItsOwnControlsDisabled) {
+    for (const Casilla& casilla : Casillas) {
+        data.*casilla.campo = FALSE;
+        Abre([&](kit::Dialog& dialogo) {
+            EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
+            dialogo.press(IDCANCEL);
+        });
+        data.*casilla.campo = TRUE;
+    }
+}
+
+TEST_F(CurvadoDlg, CheckBoxDisablesItsOwnControlsAndEnablesThemAgain) {
+    for (const Casilla& casilla : Casillas)
+        Abre([&](kit::Dialog& dialogo) {
+            dialogo.click(casilla.control);
+            EXPECT_EQ(data.*casilla.campo, 0);
+            EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
+            dialogo.click(casilla.control);
+            EXPECT_EQ(data.*casilla.campo, 1);
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{}) << casilla.control;
+            dialogo.press(IDCANCEL);
+        });
+}
+
+TEST_F(CurvadoDlg, CheckBoxesEnableIndependentlyOfEachOther) {
+    NadaEnUso();
+    Abre([](kit::Dialog& dialogo) {
+        Controles quedan = DeSuavizado;
+        for (const Casilla& casilla : Casillas)
+            Une(quedan, casilla.dependientes);
+        EXPECT_EQ(Deshabilitados(dialogo), quedan);
+        for (const Casilla& casilla : Casillas) {
+            dialogo.click(casilla.control);
+            for (const int dependiente : casilla.dependientes)
+                quedan.erase(dependiente);
+            EXPECT_EQ(Deshabilitados(dialogo), quedan) << casilla.control;
+        }
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, OtherCheckBoxesEnableNothing) {
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    Conduce(contador, [&](kit::Dialog& dialogo) {
+        contador.Intercambios();
+        for (const int control : {OpcionSuavizado, Opcion1, OpcionTexto}) {
+            dialogo.click(control);
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{}) << control;
+        }
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ClickExchangesAllThatWasTyped) {
+    for (const Casilla& casilla : Casillas) {
+        data.m_Equidistancia = 5;
+        data.m_CurvasARespetar2 = L"N2";
+        Abre([&](kit::Dialog& dialogo) {
+            dialogo.type(Equidistancia, L"7.50");
+            dialogo.type(CurvasARespetar2, L"typed");
+            EXPECT_EQ(data.m_Equidistancia, 5);
+            dialogo.click(casilla.control);
+            EXPECT_EQ(data.m_Equidistancia, 7.5);
+            EXPECT_EQ(data.m_CurvasARespetar2, L"typed");
+            EXPECT_EQ(dialogo.text(Equidistancia), L"7.50");
+            dialogo.click(casilla.control);
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+TEST_F(CurvadoDlg, BadNumberLeavesTheCheckBoxUnreadAndTheFieldOfBeforeEnables) {
+    for (const Casilla& casilla : Casillas)
+        Abre({AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
+            dialogo.type(Equidistancia, L"five");
+            dialogo.click(casilla.control);
+            EXPECT_FALSE(dialogo.checked(casilla.control));
+            EXPECT_EQ(data.*casilla.campo, 1);
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{}) << casilla.control;
+            EXPECT_EQ(dialogo.focus(), Equidistancia);
+            EXPECT_EQ(dialogo.text(Equidistancia), L"five");
+            dialogo.press(IDCANCEL);
+        });
+}
+
+TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {
+    for (const Casilla& casilla : Casillas) {
+        auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
+        desconfiado.rechazado = 6;
+        Conduce(desconfiado, [&](kit::Dialog& dialogo) {
+            dialogo.click(casilla.control);
+            EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
+            dialogo.click(casilla.control);
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+// The type of smoothing and its level.
+
+TEST_F(CurvadoDlg, TypesOfSmoothingHaveNamesOfTheirOwn) {
+    Abre([](kit::Dialog& dialogo) {
+        const auto tipos = dialogo.combo(TipoSuavizado).texts();
+        EXPECT_GE(tipos.size(), 3U);
+        EXPECT_EQ(std::set(tipos.begin(), tipos.end()).size(), tipos.size());
+        EXPECT_EQ(std::count(tipos.begin(), tipos.end(), L""), 0);
+        const LONG estilo = GetWindowLongW(dialogo.control(TipoSuavizado), GWL_STYLE);
+        EXPECT_EQ(estilo & 3, CBS_DROPDOWNLIST);
+        EXPECT_EQ(estilo & CBS_SORT, 0);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, EveryTypeButTheFirstHasItsControls) {
+    for (const int tipo : {0, 1, 2}) {
+        data.m_TipoSuavizado = tipo;
+        Abre([&](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), tipo);
+            EXPECT_EQ(Deshabilitados(dialogo), tipo == 0 ? DeSuavizado : Controles{});
+            dialogo.press(IDCANCEL);
+        });
+        EXPECT_EQ(data.m_TipoSuavizado, tipo);
+    }
+}
+
+TEST_F(CurvadoDlg, ChosenTypeEnablesAtOnceAndIsStoredByOkAlone) {
+    const auto resultado = Abre([this](kit::Dialog& dialogo) {
+        for (const int tipo : {0, 1, 0, 2, 0, 1}) {
+            dialogo.choose(TipoSuavizado, tipo);
+            EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), tipo);
+            EXPECT_EQ(Deshabilitados(dialogo), tipo == 0 ? DeSuavizado : Controles{}) << tipo;
+            dialogo.click(RangoCota); // an exchange of its own
+            dialogo.click(RangoCota);
+            EXPECT_EQ(data.m_TipoSuavizado, 2);
+        }
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoSuavizado, 1);
+}
+
+TEST_F(CurvadoDlg, CancelKeepsTheTypeOfBefore) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 1);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_TipoSuavizado, 2);
+}
+
+TEST_F(CurvadoDlg, ExchangesLeaveTheSelectionAlone) {
+    auto dlg = Dialogo();
+    Conduce(dlg, [&](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 1);
+        EXPECT_TRUE(dlg.UpdateData(FALSE));
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 1);
+        EXPECT_TRUE(dlg.UpdateData(TRUE));
+        EXPECT_EQ(data.m_TipoSuavizado, 2);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ChoosingExchangesAndShowsTheRecordAgain) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.type(Equidistancia, L"7.50");
+        dialogo.choose(TipoSuavizado, 1);
+        EXPECT_EQ(data.m_Equidistancia, 7.5);
+        EXPECT_EQ(dialogo.text(Equidistancia), L"7.5");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, BadNumberAtChoosingIsRefusedAndThenReplaced) {
+    Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
+        dialogo.type(CotaMinima, L"low");
+        dialogo.choose(TipoSuavizado, 0);
+        EXPECT_EQ(data.m_CotaMinima, 180);
+        EXPECT_EQ(dialogo.text(CotaMinima), L"180");
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 0);
+        EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, TypeOutsideTheListSelectsNoneAndOkStoresNone) {
+    for (const int tipo : {-1, 3, 99, -2}) {
+        data.m_TipoSuavizado = tipo;
+        const auto resultado = Abre([this, tipo](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), -1);
+            EXPECT_EQ(dialogo.text(TipoSuavizado), L"");
+            // As the template has them: nothing is decided without a type.
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+            EXPECT_EQ(data.m_TipoSuavizado, tipo);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(data.m_TipoSuavizado, -1);
+    }
+}
+
+TEST_F(CurvadoDlg, TypeIsChosenWhereThereWasNone) {
+    data.m_TipoSuavizado = -1;
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 0);
+        EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoSuavizado, 0);
+}
+
+TEST_F(CurvadoDlg, ChangeToNoTypeExchangesAndLeavesTheControls) {
+    data.m_TipoSuavizado = 0;
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    Conduce(contador, [&](kit::Dialog& dialogo) {
+        contador.Intercambios();
+        SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+        contador.OnCbnSelchangeTipoSuavizado();
+        EXPECT_EQ(contador.Intercambios(), "S");
+        EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
+
+        SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, 1, 0);
+        contador.OnCbnSelchangeTipoSuavizado();
+        EXPECT_EQ(contador.Intercambios(), "SM");
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ListWithoutItemsLeavesTheControls) {
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    Conduce(contador, [&](kit::Dialog& dialogo) {
+        contador.Intercambios();
+        SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, 0, 0);
+        {
+            // What only a list with a procedure of its own says while one is selected.
+            const Escucha vacia(dialogo.control(TipoSuavizado), [](UINT mensaje, WPARAM, LPARAM) {
+                return mensaje == CB_GETCOUNT ? std::optional<LRESULT>(0) : std::nullopt;
+            });
+            contador.OnCbnSelchangeTipoSuavizado();
+        }
+        EXPECT_EQ(contador.Intercambios(), "S");
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, RefusedExchangeOfAChoiceStillEnables) {
+    auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
+    desconfiado.rechazado = 6;
+    Conduce(desconfiado, [](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 0);
+        EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ArrowsOfTheLevelGoFrom1To10) {
+    Abre([](kit::Dialog& dialogo) {
+        const HWND flechas = dialogo.control(NivelFlechas);
+        int minimo = 0, maximo = 0;
+        SendMessageW(flechas, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&minimo),
+                     reinterpret_cast<LPARAM>(&maximo));
+        EXPECT_EQ(minimo, 1);
+        EXPECT_EQ(maximo, 10);
+        EXPECT_EQ(reinterpret_cast<HWND>(SendMessageW(flechas, UDM_GETBUDDY, 0, 0)),
+                  dialogo.control(NivelSuavizado));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, KeysStepTheLevelAndStopAtBothEnds) {
+    const auto resultado = Abre([this](kit::Dialog& dialogo) {
+        dialogo.spin(NivelFlechas, 1);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"5");
+        dialogo.spin(NivelFlechas, -2);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"3");
+        dialogo.spin(NivelFlechas, 20);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"10");
+        dialogo.spin(NivelFlechas, -20);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"1");
+        dialogo.focusOn(NivelSuavizado);
+        kit::keyboard::press(VK_UP);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"2");
+        EXPECT_EQ(data.m_NivelSuavizado, 4);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_NivelSuavizado, 2);
+}
+
+TEST_F(CurvadoDlg, MouseStepsTheLevelAndStopsAtBothEnds) {
+    Abre([](kit::Dialog& dialogo) {
+        const HWND flechas = dialogo.control(NivelFlechas);
+        RECT area{};
+        GetClientRect(flechas, &area);
+        const POINT arriba{area.right / 2, 2}, abajo{area.right / 2, area.bottom - 3};
+        kit::mouse::click(flechas, arriba);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"5");
+        kit::mouse::click(flechas, abajo);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"4");
+        for (int i = 0; i < 12; ++i)
+            kit::mouse::click(flechas, arriba);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"10");
+        for (int i = 0; i < 12; ++i)
+            kit::mouse::click(flechas, abajo);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"1");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, ArrowsStepFromTheLevelThatWasTyped) {
+    Abre([](kit::Dialog& dialogo) {
+        dialogo.type(NivelSuavizado, L"7");
+        dialogo.spin(NivelFlechas, 1);
+        EXPECT_EQ(dialogo.text(NivelSuavizado), L"8");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// The boundary's file.
+
+TEST_F(CurvadoDlg, BrowsingAsksTheHostForAFileThatExists) {
+    struct CDerivado : ConIntercambios<CCurvadoDlg> {
+        using ConIntercambios<CCurvadoDlg>::ConIntercambios;
+        using CCurvadoDlg::m_pPlantilla;
+    };
+    plantilla = reinterpret_cast<CDocTemplate*>(&kit::app);
+    auto derivado = Dialogo<CDerivado>();
+    kit::app.answerFilePrompt(L"D:\\chosen one.dxf");
+    Conduce(derivado, [&](kit::Dialog& dialogo) {
+        dialogo.type(FicheroLimite, L"C:\\typed.dxf");
+        dialogo.type(Equidistancia, L"7.50");
+        derivado.Intercambios();
+        dialogo.press(Buscar);
+        EXPECT_EQ(derivado.Intercambios(), "SM");
+        const auto preguntas = kit::app.takeFilePrompts();
+        ASSERT_EQ(preguntas.size(), 1U);
+        EXPECT_EQ(preguntas[0].name, &data.m_FicheroLimite);
+        EXPECT_EQ(preguntas[0].nameBefore, L"C:\\typed.dxf");
+        EXPECT_EQ(preguntas[0].title, 61440U);
+        EXPECT_EQ(preguntas[0].flags, 0x1004U);
+        EXPECT_EQ(preguntas[0].open, 1);
+        // The dialog's own member, which holds the host's template.
+        EXPECT_EQ(preguntas[0].documentTemplate, &derivado.m_pPlantilla);
+        EXPECT_EQ(derivado.m_pPlantilla, plantilla);
+        EXPECT_EQ(preguntas[0].kind, 0);
+        EXPECT_EQ(preguntas[0].reserved, nullptr);
+        EXPECT_EQ(preguntas[0].active, dialogo.handle());
+        EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen one.dxf");
+        EXPECT_EQ(dialogo.text(Equidistancia), L"7.5");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(data.m_FicheroLimite, L"D:\\chosen one.dxf");
+}
+
+TEST_F(CurvadoDlg, CancelledBrowsingKeepsWhatWasTyped) {
+    kit::app.cancelFilePrompt();
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    Conduce(contador, [&](kit::Dialog& dialogo) {
+        dialogo.type(FicheroLimite, L"C:\\typed.dxf");
+        dialogo.type(Equidistancia, L"7.50");
+        contador.Intercambios();
+        dialogo.press(Buscar);
+        EXPECT_EQ(contador.Intercambios(), "S");
+        EXPECT_EQ(dialogo.text(FicheroLimite), L"C:\\typed.dxf");
+        EXPECT_EQ(dialogo.text(Equidistancia), L"7.50");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(data.m_FicheroLimite, L"C:\\typed.dxf");
+    EXPECT_EQ(data.m_Equidistancia, 7.5);
+}
+
+TEST_F(CurvadoDlg, AnswerOfThePromptIsTakenAsItIs) {
+    const std::wstring largo = L"C:\\" + std::wstring(400, L'n') + L".dxf";
+    for (const std::wstring& nombre : {std::wstring(L"  no such file "), std::wstring(), largo}) {
+        kit::app.answerFilePrompt(nombre);
+        Abre([&](kit::Dialog& dialogo) {
+            dialogo.press(Buscar);
+            EXPECT_EQ(dialogo.text(FicheroLimite), nombre);
+            dialogo.press(IDCANCEL);
+        });
+        EXPECT_EQ(data.m_FicheroLimite, nombre.c_str());
+    }
+}
+
+TEST_F(CurvadoDlg, BadNumberAtBrowsingIsRefusedAndThenReplaced) {
+    kit::app.answerFilePrompt(L"D:\\chosen.dxf");
+    Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(CotaMinima, L"low");
+        dialogo.press(Buscar);
+        EXPECT_EQ(dialogo.text(CotaMinima), L"180");
+        EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen.dxf");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// By keyboard alone.
+
+TEST_F(CurvadoDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Escala,           Equidistancia,    EquidistanciaMaestra,
+                                    Codigos,          Avanzado,         TextoCurvas,
+                                    TextoValor1,      TextoValor2,      TextoEntero,
+                                    OpcionTexto,      RangoCota,        CotaMinima,
+                                    CotaMaxima,       Limite,           FicheroLimite,
+                                    Buscar,           TipoSuavizado,    NivelSuavizado,
+                                    OpcionSuavizado,  Opcion1,          RespetarCurvas,
+                                    CurvasARespetar1, CurvasARespetar2, IDOK,
+                                    IDCANCEL,         ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, KeyboardPassesWhatIsNotInUse) {
+    NadaEnUso();
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Escala, Equidistancia, EquidistanciaMaestra, Codigos, Avanzado,
+                                    TextoCurvas, RangoCota, Limite, TipoSuavizado, Opcion1,
+                                    RespetarCurvas, IDOK, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, KeyboardPassesWhatTheHostHides) {
+    extras = SW_HIDE;
+    Abre([](kit::Dialog& dialogo) {
+        const auto recorrido = RecorreConTabulador(dialogo);
+        EXPECT_EQ(recorrido.size(), 19U);
+        for (const int control : Ocultables)
+            EXPECT_EQ(std::count(recorrido.begin(), recorrido.end(), control), 0) << control;
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, MnemonicsReachTheirControls) {
+    Abre([](kit::Dialog& dialogo) {
+        const std::pair<wchar_t, int> letras[] = {
+            {L'i', Equidistancia},    {L's', Escala},         {L'm', EquidistanciaMaestra},
+            {L'e', TextoValor1},      {L'p', TextoValor2},    {L'd', TextoEntero},
+            {L't', CotaMinima},       {L'g', CotaMaxima},     {L'f', FicheroLimite},
+            {L'y', TipoSuavizado},    {L'v', NivelSuavizado}, {L'n', CurvasARespetar1},
+            {L'u', CurvasARespetar2},
+        };
+        for (const auto& [letra, control] : letras) {
+            kit::keyboard::mnemonic(letra);
+            EXPECT_EQ(dialogo.focus(), control);
+        }
+        const std::pair<wchar_t, int> casillas[] = {
+            {L'l', TextoCurvas},     {L'o', OpcionTexto}, {L'w', RangoCota},      {L'b', Limite},
+            {L'k', OpcionSuavizado}, {L'j', Opcion1},     {L'x', RespetarCurvas},
+        };
+        for (const auto& [letra, control] : casillas) {
+            const bool antes = dialogo.checked(control);
+            kit::keyboard::mnemonic(letra);
+            EXPECT_EQ(dialogo.focus(), control);
+            EXPECT_EQ(dialogo.checked(control), !antes) << control;
+            kit::keyboard::mnemonic(letra);
+            EXPECT_EQ(dialogo.checked(control), antes) << control;
+        }
+        kit::app.cancelFilePrompt();
+        kit::keyboard::mnemonic(L'r');
+        EXPECT_EQ(kit::app.takeFilePrompts().size(), 1U);
+        kit::keyboard::mnemonic(L'h');
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, KeysChooseTheTypeOfSmoothing) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.focusOn(TipoSuavizado);
+        kit::keyboard::press(VK_HOME);
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 0);
+        EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
+        kit::keyboard::press(VK_DOWN);
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 1);
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+        kit::keyboard::press(VK_RETURN);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoSuavizado, 1);
+}
+
+TEST_F(CurvadoDlg, SpaceChangesACheckBox) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.focusOn(Limite);
+        kit::keyboard::press(VK_SPACE);
+        EXPECT_EQ(data.m_Limite, 0);
+        EXPECT_EQ(Deshabilitados(dialogo), (Controles{FicheroLimite, Buscar}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, EnterIsOkAndEscapeIsCancel) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
+                  kit::keyboard::press(VK_RETURN);
+              }),
+              IDOK);
+    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+}
+
+// Help.
+
+TEST_F(CurvadoDlg, F1AndTheHelpButtonOpenItsPage) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaAyuda(dialogo, {Escala, TextoCurvas, TipoSuavizado, CotaMaxima, IDOK}, 151165);
+        dialogo.helpOn(20024);
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoDlg, HelpOfADerivedClassIsTheOneThatOpens) {
+    CompruebaAyudaDerivada<CCurvadoDlg>(data, nullptr, 150.0, 400.0, 1);
+}
+
+// A host's own class on top of the dialog.
+
+TEST_F(CurvadoDlg, HostSeesEachExchangeAsItIsDocumented) {
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    const auto resultado = Conduce(contador, [&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "MMSSSSSM");
+        for (const Casilla& casilla : Casillas) {
+            dialogo.click(casilla.control);
+            EXPECT_EQ(contador.Intercambios(), "S") << casilla.control;
+        }
+        dialogo.type(Equidistancia, L"7");
+        dialogo.spin(NivelFlechas, 2);
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.choose(TipoSuavizado, 1);
+        EXPECT_EQ(contador.Intercambios(), "SM");
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(contador.Intercambios(), "SS");
+    kit::app.takeHelpRequests();
+}
+
+TEST_F(CurvadoDlg, HostCallsTheHandlersItself) {
+    data.m_AvanzadoPorEscala = TRUE;
+    auto dlg = Dialogo();
+    const auto resultado = Conduce(dlg, [&](kit::Dialog& dialogo) {
+        const std::pair<const Casilla&, void (CCurvadoDlg::*)()> manejadores[] = {
+            {Casillas[0], &CCurvadoDlg::OnCheckTextoCurvas},
+            {Casillas[1], &CCurvadoDlg::OnCheckLimite},
+            {Casillas[2], &CCurvadoDlg::OnCheckRespetarCurvas},
+            {Casillas[3], &CCurvadoDlg::OnCheckRangoCota},
+        };
+        for (const auto& [casilla, manejador] : manejadores) {
+            dlg.CheckDlgButton(casilla.control, BST_UNCHECKED);
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{});
+            (dlg.*manejador)();
+            EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
+            dlg.CheckDlgButton(casilla.control, BST_CHECKED);
+            (dlg.*manejador)();
+            EXPECT_EQ(Deshabilitados(dialogo), Controles{}) << casilla.control;
+        }
+        dlg.OnChangeEscalaCurvado();
+        EXPECT_DOUBLE_EQ(data.m_ValorAvanzado1, 0.04);
+        kit::app.answerFilePrompt(L"D:\\chosen.dxf");
+        dlg.OnBuscar();
+        EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen.dxf");
+        dlg.OnHelp();
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
+        EXPECT_TRUE(dlg.OnHelpInfo(nullptr));
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
+        dlg.OnOK();
+    });
+    EXPECT_EQ(resultado, IDOK);
+}
+
+TEST_F(CurvadoDlg, HasNoClassInformationOfItsOwn) {
+    EXPECT_EQ(Dialogo().GetRuntimeClass(), RUNTIME_CLASS(CDialog));
+}
+
+TEST_F(CurvadoDlg, LeavesNothingBehind) {
+    CompruebaQueNadaQueda([this] {
+        Abre([](kit::Dialog& dialogo) {
+            dialogo.click(TextoCurvas);
+            dialogo.choose(TipoSuavizado, 1);
+            dialogo.spin(NivelFlechas, 1);
+            dialogo.press(IDCANCEL);
+        });
+    });
+}
+
+} // namespace

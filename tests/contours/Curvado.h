@@ -1,0 +1,244 @@
+// What the tests of the contour options share: the numbers of their controls, and a record and a
+// model over which every part of the dialog is in use and OK has nothing to refuse.
+#pragma once
+
+#include "cuadros/contours/CurvadoDlg.h"
+
+#include "checks/Comprobaciones.h"
+#include "cuadros/resources/ContoursIds.h"
+#include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
+
+#include <initializer_list>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+using Cotana::CDataCurvado;
+using Controles = std::set<int>;
+
+constexpr int Escala = IDC_CURVADO_ESCALA;
+constexpr int Equidistancia = IDC_CURVADO_EQUIDISTANCIA;
+constexpr int EquidistanciaMaestra = IDC_CURVADO_EQUIDISTANCIA_MAESTRA;
+constexpr int Avanzado = IDC_CURVADO_AVANZADO;
+constexpr int Codigos = IDC_CURVADO_CODIGOS;
+constexpr int TextoCurvas = IDC_CURVADO_TEXTO_CURVAS;
+constexpr int TextoValor1 = IDC_CURVADO_TEXTO_VALOR_1;
+constexpr int TextoValor2 = IDC_CURVADO_TEXTO_VALOR_2;
+constexpr int TextoEntero = IDC_CURVADO_TEXTO_ENTERO;
+constexpr int OpcionTexto = IDC_CURVADO_OPCION_TEXTO;
+constexpr int RangoCota = IDC_CURVADO_RANGO_COTA;
+constexpr int CotaMinima = IDC_CURVADO_COTA_MINIMA;
+constexpr int CotaMaxima = IDC_CURVADO_COTA_MAXIMA;
+constexpr int CotaMinimaModelo = IDC_CURVADO_COTA_MINIMA_MODELO;
+constexpr int CotaMaximaModelo = IDC_CURVADO_COTA_MAXIMA_MODELO;
+constexpr int Limite = IDC_CURVADO_LIMITE;
+constexpr int FicheroLimite = IDC_CURVADO_FICHERO_LIMITE;
+constexpr int Buscar = IDC_CURVADO_BUSCAR;
+constexpr int TipoSuavizado = IDC_CURVADO_TIPO_SUAVIZADO;
+constexpr int NivelSuavizado = IDC_CURVADO_NIVEL_SUAVIZADO;
+constexpr int NivelFlechas = IDC_CURVADO_NIVEL_FLECHAS;
+constexpr int OpcionSuavizado = IDC_CURVADO_OPCION_SUAVIZADO;
+constexpr int Opcion1 = IDC_CURVADO_OPCION_1;
+constexpr int RespetarCurvas = IDC_CURVADO_RESPETAR_CURVAS;
+constexpr int CurvasARespetar1 = IDC_CURVADO_CURVAS_A_RESPETAR_1;
+constexpr int CurvasARespetar2 = IDC_CURVADO_CURVAS_A_RESPETAR_2;
+
+// Hosts, their help and the language file know these numbers.
+static_assert(IDD_CURVADO == 20093);
+static_assert(IDI_CURVADO == 20093);
+static_assert(ID_HELP == 57670);
+static_assert(Escala == 20087);
+static_assert(Equidistancia == 20081);
+static_assert(EquidistanciaMaestra == 20082);
+static_assert(Avanzado == 18587);
+static_assert(Codigos == 20042);
+static_assert(TextoCurvas == 20088);
+static_assert(TextoValor1 == 20090);
+static_assert(TextoValor2 == 20089);
+static_assert(TextoEntero == 20092);
+static_assert(OpcionTexto == 20217);
+static_assert(RangoCota == 20216);
+static_assert(CotaMinima == 20091);
+static_assert(CotaMaxima == 20093);
+static_assert(CotaMinimaModelo == 20075);
+static_assert(CotaMaximaModelo == 20074);
+static_assert(Limite == 20073);
+static_assert(FicheroLimite == 20086);
+static_assert(Buscar == 20085);
+static_assert(TipoSuavizado == 20210);
+static_assert(NivelSuavizado == 20206);
+static_assert(NivelFlechas == 1024);
+static_assert(OpcionSuavizado == 18285);
+static_assert(Opcion1 == 20212);
+static_assert(RespetarCurvas == 20213);
+static_assert(CurvasARespetar1 == 20083);
+static_assert(CurvasARespetar2 == 20084);
+static_assert(IDS_TITULO_MENSAJES == 15105);
+static_assert(IDS_ESCALA_NO_POSITIVA == 19078);
+static_assert(IDS_VALOR_TEXTO_NO_POSITIVO == 15037);
+static_assert(IDS_VALOR_NO_POSITIVO == 19076);
+static_assert(IDS_SEGUNDO_VALOR_NO_POSITIVO == 20008);
+static_assert(IDS_FICHERO_LIMITE_OBLIGATORIO == 20004);
+static_assert(IDS_NIVEL_SUAVIZADO_FUERA == 20024);
+static_assert(IDS_RANGO_COTAS_FUERA == 20029);
+
+/// What a host may hide, in the order in which it is shown or hidden.
+const std::vector<int> Ocultables = {20024,
+                                     TipoSuavizado,
+                                     20208,
+                                     20209,
+                                     NivelSuavizado,
+                                     NivelFlechas,
+                                     OpcionSuavizado,
+                                     Opcion1,
+                                     RespetarCurvas,
+                                     CurvasARespetar1,
+                                     CurvasARespetar2,
+                                     20214,
+                                     20215};
+
+/// What counts for a type of smoothing other than the first.
+const Controles DeSuavizado = {OpcionSuavizado, NivelSuavizado, NivelFlechas};
+
+/// A check box, its field, and what it enables.
+struct Casilla {
+    int control;
+    int CDataCurvado::*campo;
+    Controles dependientes;
+};
+const std::vector<Casilla> Casillas = {
+    {TextoCurvas,
+     &CDataCurvado::m_TextoCurvas,
+     {TextoValor1, TextoValor2, TextoEntero, OpcionTexto}},
+    {Limite, &CDataCurvado::m_Limite, {FicheroLimite, Buscar}},
+    {RespetarCurvas, &CDataCurvado::m_RespetarCurvas, {CurvasARespetar1, CurvasARespetar2}},
+    {RangoCota, &CDataCurvado::m_RangoCota, {CotaMinima, CotaMaxima}},
+};
+
+/// The controls of the dialog for which `es` holds.
+inline Controles ControlesQue(const kit::Dialog& dialogo, const std::function<bool(HWND)>& es) {
+    Controles controles;
+    for (HWND control = GetWindow(dialogo.handle(), GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        if (es(control))
+            controles.insert(GetDlgCtrlID(control));
+    return controles;
+}
+inline Controles Deshabilitados(const kit::Dialog& dialogo) {
+    return ControlesQue(dialogo, [](HWND control) { return !IsWindowEnabled(control); });
+}
+inline Controles Ocultos(const kit::Dialog& dialogo) {
+    return ControlesQue(dialogo, [](HWND control) { return !IsWindowVisible(control); });
+}
+
+inline void Une(Controles& controles, const Controles& otros) {
+    controles.insert(otros.begin(), otros.end());
+}
+
+/// Every field of a record, to compare it with what it was.
+inline auto Campos(const CDataCurvado& data) {
+    return std::make_tuple(
+        data.m_ValorAvanzado1, data.m_ValorAvanzado2, data.m_AvanzadoPorEscala, data.m_TextoCurvas,
+        data.m_Limite, data.m_OpcionSuavizado, data.m_Opcion1, data.m_RespetarCurvas,
+        data.m_RangoCota, data.m_OpcionTexto, data.m_CodigoCurvas1, data.m_CodigoCurvas2,
+        data.m_CodigoCurvas3, data.m_CodigoCurvas4, data.m_CodigoCurvas5, data.m_CurvasARespetar1,
+        data.m_CurvasARespetar2, data.m_FicheroLimite, data.m_Escala, data.m_TextoValor1,
+        data.m_Equidistancia, data.m_EquidistanciaMaestra, data.m_TextoValor2, data.m_CotaMinima,
+        data.m_CotaMaxima, data.m_TextoEntero, data.m_NivelSuavizado, data.m_TipoSuavizado);
+}
+
+class Curvado : public testing::Test {
+protected:
+    Curvado() {
+        data.m_ValorAvanzado1 = 0.5;
+        data.m_ValorAvanzado2 = 1.5;
+        data.m_AvanzadoPorEscala = FALSE;
+        data.m_TextoCurvas = TRUE;
+        data.m_Limite = TRUE;
+        data.m_OpcionSuavizado = TRUE;
+        data.m_Opcion1 = FALSE;
+        data.m_RespetarCurvas = TRUE;
+        data.m_RangoCota = TRUE;
+        data.m_OpcionTexto = FALSE;
+        data.m_CodigoCurvas1 = L"C1";
+        data.m_CodigoCurvas2 = L"C2";
+        data.m_CodigoCurvas3 = L"C3";
+        data.m_CodigoCurvas4 = L"C4";
+        data.m_CodigoCurvas5 = L"C5";
+        data.m_CurvasARespetar1 = L"N1";
+        data.m_CurvasARespetar2 = L"N2";
+        data.m_FicheroLimite = L"C:\\limit.dxf";
+        data.m_Escala = 1000;
+        data.m_TextoValor1 = 2.5;
+        data.m_Equidistancia = 5;
+        data.m_EquidistanciaMaestra = 25;
+        data.m_TextoValor2 = 120;
+        data.m_CotaMinima = 180;
+        data.m_CotaMaxima = 320.5;
+        data.m_TextoEntero = 3;
+        data.m_NivelSuavizado = 4;
+        data.m_TipoSuavizado = 2;
+    }
+
+    using Paso = std::function<void(kit::Dialog&)>;
+
+    /// A dialog over the record and the model.
+    template <class Dlg = CCurvadoDlg>
+    Dlg Dialogo(CWnd* padre = nullptr) {
+        return Dlg(data, plantilla, cotaMinimaModelo, cotaMaximaModelo, extras, padre);
+    }
+
+    /// Opens `dialogo`, does `paso` in it, and returns what `DoModal` returned.
+    ///
+    /// @param mensajes the refusals that come meanwhile, in this order: numbers of the dialog's
+    ///                 messages, or of the framework's own prompts.
+    INT_PTR Conduce(CDialog& dialogo, std::initializer_list<UINT> mensajes, const Paso& paso,
+                    kit::Where donde = kit::Where::current()) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        for (const UINT mensaje : mensajes) {
+            if (mensaje == AFX_IDP_PARSE_REAL || mensaje == AFX_IDP_PARSE_INT ||
+                mensaje == AFX_IDP_PARSE_UINT)
+                EsperaAviso(guion, mensaje, 1, donde);
+            else
+                guion
+                    .expectMessage(TextoDe(IDS_TITULO_MENSAJES), TextoDe(mensaje), MB_ICONERROR,
+                                   donde)
+                    .buttons(MB_OK)
+                    .ownedByDialog();
+        }
+        return guion.run([&] { return dialogo.DoModal(); }, donde);
+    }
+    INT_PTR Conduce(CDialog& dialogo, const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Conduce(dialogo, {}, paso, donde);
+    }
+
+    /// The same with a dialog of its own.
+    INT_PTR Abre(std::initializer_list<UINT> mensajes, const Paso& paso,
+                 kit::Where donde = kit::Where::current()) {
+        auto dialogo = Dialogo();
+        return Conduce(dialogo, mensajes, paso, donde);
+    }
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Abre({}, paso, donde);
+    }
+
+    /// Clears every check box that enables others, and takes the first type of smoothing.
+    void NadaEnUso() {
+        for (const Casilla& casilla : Casillas)
+            data.*casilla.campo = FALSE;
+        data.m_TipoSuavizado = 0;
+    }
+
+    CDataCurvado data;
+    CDocTemplate* plantilla = nullptr;
+    double cotaMinimaModelo = 150;
+    double cotaMaximaModelo = 400;
+    int extras = SW_SHOWNORMAL;
+};
+
+} // namespace

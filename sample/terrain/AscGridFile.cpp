@@ -110,9 +110,11 @@ std::optional<double> Number(std::string_view word) {
     const auto [last, error] = std::from_chars(word.data() + plus, end, number);
     if (last != end || error == std::errc::invalid_argument)
         return {};
-    // What is too large for a double is infinite, what is too small is zero: it has told neither.
-    if (error == std::errc::result_out_of_range)
-        return HUGE_VAL;
+    if (error == std::errc::result_out_of_range) {
+        // It is not told whether too large or too small; only a power of ten makes a word either.
+        const bool small = word.find("e-") != word.npos || word.find("E-") != word.npos;
+        return small ? 0 : HUGE_VAL;
+    }
     return number;
 }
 
@@ -139,7 +141,7 @@ int Dimension(std::string_view word, const std::wstring& name) {
     const auto [last, error] = std::from_chars(word.data(), end, number);
     if (last != end || error == std::errc::invalid_argument)
         throw Fault{name + L" is not a whole number: " + Shown(word)};
-    if (error == std::errc() && number < 1)
+    if (word[0] == '-' || (error == std::errc() && number < 1))
         throw Fault{name + L" is not above 0: " + Shown(word)};
     if (error != std::errc() || number > MostElevations)
         throw Fault{name + L" is above " + std::to_wstring(MostElevations) + L": " + Shown(word)};

@@ -10,28 +10,29 @@
 
 namespace {
 
-/// A text in UTF-8 that stands between marks and in quotes.
+/// A text in UTF-8 that may stand between marks and in quotes.
 std::string Escaped(const CString& text) {
-    const int length = text.GetLength();
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
-    std::string bytes(size, '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, length, bytes.data(), size, nullptr, nullptr);
-    std::string escaped;
-    for (const char byte : bytes) {
-        if (byte == '&')
-            escaped += "&amp;";
-        else if (byte == '<')
-            escaped += "&lt;";
-        else if (byte == '>')
-            escaped += "&gt;";
-        else if (byte == '"')
-            escaped += "&quot;";
-        else if (static_cast<unsigned char>(byte) < ' ')
-            escaped += ' '; // XML has no way to write them
+    std::wstring escaped;
+    for (const wchar_t character : std::wstring_view(text)) {
+        if (character == L'&')
+            escaped += L"&amp;";
+        else if (character == L'<')
+            escaped += L"&lt;";
+        else if (character == L'>')
+            escaped += L"&gt;";
+        else if (character == L'"')
+            escaped += L"&quot;";
+        else if (character < L' ' || character >= 0xFFFE)
+            escaped += L' '; // XML has no way to write them
         else
-            escaped += byte;
+            escaped += character;
     }
-    return escaped;
+    const int length = static_cast<int>(escaped.size());
+    std::string bytes(escaped.size() * 3, '\0');
+    // Half a pair becomes the replacement character.
+    bytes.resize(WideCharToMultiByte(CP_UTF8, 0, escaped.data(), length, bytes.data(),
+                                     static_cast<int>(bytes.size()), nullptr, nullptr));
+    return bytes;
 }
 
 /// How a kind of contours is drawn.

@@ -62,37 +62,13 @@ std::vector<std::wstring_view> EntryFields(std::wstring_view text, const TextFor
     return fields;
 }
 
-CString Refusal(const CString& file, const std::wstring& what) {
-    return file + L": " + what.c_str();
-}
-
-CString Refusal(const CString& file, int line, const std::wstring& what) {
-    CString text;
-    text.Format(L"%s(%d): %s", static_cast<LPCWSTR>(file), line, what.c_str());
-    return text;
-}
-
-/// The bytes of a file; throws what Windows says when it cannot be read.
+/// The bytes of a file; throws a Fault when it cannot be read.
 std::string Bytes(const CString& file, const TextFormat& format) {
-    const HANDLE handle = CreateFileW(file, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) {
-        const DWORD error = GetLastError();
-        if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
-            throw Fault{L"there is no such file"};
-        throw Fault{L"the file cannot be opened (Windows error " + std::to_wstring(error) + L")"};
-    }
     // One byte more than is allowed tells a file that is too long from one that just fits.
     std::string bytes(LongestFile + 1, '\0');
-    DWORD read = 0;
-    const BOOL done =
-        ReadFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-    CloseHandle(handle);
-    if (!done)
-        throw Fault{L"the file cannot be read"};
-    if (read > LongestFile)
+    bytes.resize(InputFile(file).Read(bytes.data(), bytes.size()));
+    if (bytes.size() > LongestFile)
         throw Fault{std::wstring(L"the file is longer than 4 MB: this is not a ") + format.file};
-    bytes.resize(read);
     return bytes;
 }
 
@@ -107,6 +83,36 @@ std::string_view TakeFront(std::string_view& bytes) {
 }
 
 } // namespace
+
+CString Refusal(const CString& file, const std::wstring& what) {
+    return file + L": " + what.c_str();
+}
+
+CString Refusal(const CString& file, long long line, const std::wstring& what) {
+    return Refusal(file + L"(" + std::to_wstring(line).c_str() + L")", what);
+}
+
+InputFile::InputFile(const CString& name)
+    : m_Handle(CreateFileW(name, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                           FILE_ATTRIBUTE_NORMAL, nullptr)) {
+    if (m_Handle == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+            throw Fault{L"there is no such file"};
+        throw Fault{L"the file cannot be opened (Windows error " + std::to_wstring(error) + L")"};
+    }
+}
+
+InputFile::~InputFile() {
+    CloseHandle(m_Handle);
+}
+
+size_t InputFile::Read(char* bytes, size_t size) {
+    DWORD read = 0;
+    if (!ReadFile(m_Handle, bytes, static_cast<DWORD>(size), &read, nullptr))
+        throw Fault{L"the file cannot be read"};
+    return read;
+}
 
 CString ReadTextFile(const CString& file, const TextFormat& format, const TakeLine& take) {
     try {

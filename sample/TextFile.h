@@ -1,5 +1,5 @@
-// What the sample's readers of text files have in common: a file of lines, each with three fields
-// between semicolons, that is read whole or refused whole, with one line that says why.
+// What the sample's readers of text files have in common: a file is read whole or refused whole,
+// with one line that says why. Most are files of lines, each with three fields between semicolons.
 #pragma once
 
 #include <afx.h>
@@ -14,6 +14,29 @@
 /// What is wrong with a file, or with one of its lines; thrown by a reader, never beyond it.
 struct Fault {
     std::wstring text;
+};
+
+/// The refusal of a file: "codes.txt: there is no such file".
+CString Refusal(const CString& file, const std::wstring& what);
+
+/// The refusal of one of its lines, from 1: "codes.txt(12): the style is missing".
+CString Refusal(const CString& file, long long line, const std::wstring& what);
+
+/// A file that is read from its front.
+class InputFile {
+public:
+    /// Throws a Fault when there is no such file or Windows does not open it.
+    explicit InputFile(const CString& name);
+    ~InputFile();
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    /// Reads on, up to `size` bytes, below 2 GB; throws a Fault when Windows cannot.
+    /// @return how many were read: fewer than `size` at the end of the file, then none.
+    size_t Read(char* bytes, size_t size);
+
+private:
+    void* m_Handle;
 };
 
 /// What the refusals call the file and its parts.

@@ -20,6 +20,7 @@ packages='
   g++                           /usr/bin/g++
   googletest                    /usr/src/googletest/CMakeLists.txt
   clang-format-14               /usr/bin/clang-format-14
+  python3                       /usr/bin/python3
   wine                          /usr/bin/wine
   wine64                        /usr/lib/wine/wine64
   fonts-wine                    /usr/share/wine/fonts/tahoma.ttf

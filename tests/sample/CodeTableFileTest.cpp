@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "TemporaryFile.h"
+
 using Cotana::CDigiTab;
 using Cotana::CElementoDigiTab;
 using kit::utf8;
@@ -18,29 +20,6 @@ std::string Refused(std::string_view bytes) {
     CDigiTab table;
     return Refused(bytes, table);
 }
-
-/// A file that exists while the test runs.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(std::string_view bytes) {
-        wchar_t folder[MAX_PATH];
-        GetTempPathW(MAX_PATH, folder);
-        GetTempFileNameW(folder, L"cod", 0, name_);
-        const HANDLE file =
-            CreateFileW(name_, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-        DWORD written = 0;
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(file);
-    }
-    ~TemporaryFile() { DeleteFileW(name_); }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    const wchar_t* Name() const { return name_; }
-
-private:
-    wchar_t name_[MAX_PATH] = {};
-};
 
 } // namespace
 

@@ -1,5 +1,511 @@
+// A surveyor draws where the slope of a triangulated network changes. He types the least change,
+// the labels' decimals and the code of the lines, and ticks which drawings he wants: OK is enabled
+// while one of them is.
 #include "cuadros/contours/CambiosPendienteTINDlg.h"
 
-#include "checks/Comprobaciones.h"
+#include "ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
+
+namespace {
+
+constexpr int Valor = IDC_CAMBIOS_PENDIENTE_TIN_VALOR;
+constexpr int NotaValor = IDC_CAMBIOS_PENDIENTE_TIN_NOTA_VALOR;
+constexpr int Entero = IDC_CAMBIOS_PENDIENTE_TIN_ENTERO;
+constexpr int Cadena = IDC_CAMBIOS_PENDIENTE_TIN_CADENA;
+constexpr int NotaCadena = IDC_CAMBIOS_PENDIENTE_TIN_NOTA_CADENA;
+constexpr int Dibujo1 = IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_1;
+constexpr int Dibujo2 = IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_2;
+
+static_assert(IDD_CAMBIOS_PENDIENTE_TIN == 20113);
+static_assert(Entero == 14280);
+static_assert(Cadena == 14502);
+static_assert(Valor == 20077);
+static_assert(Dibujo1 == 20224);
+static_assert(Dibujo2 == 20225);
+static_assert(NotaValor == 14501);
+static_assert(NotaCadena == 14503);
+static_assert(IDI_TRIANGULACION == 19011);
+
+class CambiosPendienteTINDlg : public ConDialogo {
+protected:
+    CambiosPendienteTINDlg() {
+        data.m_EnteroCambio = 2;
+        data.m_CadenaCambio = L"SC";
+        data.m_ValorCambio = 12.5;
+        data.m_GenerarDibujo1 = TRUE;
+        data.m_GenerarDibujo2 = TRUE;
+    }
+
+    INT_PTR Ejecuta(CWnd* padre) override { return CCambiosPendienteTINDlg(data, padre).DoModal(); }
+
+    Cotana::CDataCambiosPendiente data;
+};
+
+// What the user sees first.
+
+TEST_F(CambiosPendienteTINDlg, ShowsTheRecord) {
+    data.m_GenerarDibujo2 = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.caption(), L"Slope Changes");
+        EXPECT_EQ(dialogo.text(Entero), L"2");
+        EXPECT_EQ(dialogo.text(Cadena), L"SC");
+        EXPECT_EQ(dialogo.text(Valor), L"12.5");
+        EXPECT_TRUE(dialogo.checked(Dibujo1));
+        EXPECT_FALSE(dialogo.checked(Dibujo2));
+        EXPECT_TRUE(ControlesCon(dialogo, WS_VISIBLE) == ControlesCon(dialogo, WS_CHILD));
+        dialogo.picture(L"CambiosPendienteTINDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, EachBoxShowsItsOwnFlag) {
+    data.m_GenerarDibujo1 = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.checked(Dibujo1));
+        EXPECT_TRUE(dialogo.checked(Dibujo2));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, NotesAreDisabledAndStayIt) {
+    const std::vector<int> notas = {NotaValor, NotaCadena};
+    Abre([&](kit::Dialog& dialogo) {
+        EXPECT_EQ(ControlesCon(dialogo, WS_DISABLED), notas);
+        for (const int casilla : {Dibujo1, Dibujo1, Dibujo2, Dibujo2}) {
+            dialogo.click(casilla);
+            EXPECT_EQ(ControlesCon(dialogo, WS_DISABLED), notas);
+        }
+        for (const int nota : notas)
+            EXPECT_FALSE(dialogo.text(nota).empty());
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, OpensInItsOrder) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    ConDiario<CCambiosPendienteTINDlg> conDiario(data);
+    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(conDiario.diario,
+              (Diario{"M", "disable 14501", "disable 14503", "M", "S", "disable 1"}));
+}
+
+TEST_F(CambiosPendienteTINDlg, OpensInTheMiddleOfItsOwner) {
+    CompruebaQueSeCentra();
+}
+
+TEST_F(CambiosPendienteTINDlg, HasItsSmallIconOnly) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_TRIANGULACION);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, ValueIsRoundedTo15DigitsAtOpening) {
+    data.m_ValorCambio = 0.1 + 0.2;
+    Abre([this](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Valor), L"0.3");
+        EXPECT_EQ(data.m_ValorCambio, 0.3);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, FlagsOutsideTheirRangeAreReadBackAtOpening) {
+    data.m_GenerarDibujo1 = 7;
+    data.m_GenerarDibujo2 = -1;
+    Abre([this](kit::Dialog& dialogo) {
+        EXPECT_EQ(data.m_GenerarDibujo1, 0);
+        EXPECT_EQ(data.m_GenerarDibujo2, 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// The two check boxes.
+
+TEST_F(CambiosPendienteTINDlg, OkIsEnabledAtOpeningWhileADrawingIsTicked) {
+    for (const int dibujo1 : {0, 1})
+        for (const int dibujo2 : {0, 1}) {
+            data.m_GenerarDibujo1 = dibujo1;
+            data.m_GenerarDibujo2 = dibujo2;
+            Abre([&](kit::Dialog& dialogo) {
+                EXPECT_EQ(dialogo.enabled(IDOK), dibujo1 || dibujo2) << dibujo1 << dibujo2;
+                EXPECT_TRUE(dialogo.enabled(IDCANCEL));
+                EXPECT_TRUE(dialogo.enabled(ID_HELP));
+                dialogo.press(IDCANCEL);
+            });
+        }
+}
+
+TEST_F(CambiosPendienteTINDlg, UntickingBothDisablesOkAtOnceAndEitherEnablesIt) {
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.click(Dibujo1);
+        EXPECT_EQ(data.m_GenerarDibujo1, 0);
+        EXPECT_EQ(data.m_GenerarDibujo2, 1);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.click(Dibujo2);
+        EXPECT_EQ(data.m_GenerarDibujo2, 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+
+        dialogo.click(Dibujo1);
+        EXPECT_EQ(data.m_GenerarDibujo1, 1);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.click(Dibujo1);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.click(Dibujo2);
+        EXPECT_EQ(data.m_GenerarDibujo2, 1);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, BoxesEnableOkAndNothingElse) {
+    Diario diario;
+    Abre([&](kit::Dialog& dialogo) {
+        const EscuchaControles escucha(dialogo.handle(), diario);
+        for (const int casilla : {Dibujo1, Dibujo2, Dibujo2, Dibujo2, Dibujo1})
+            dialogo.click(casilla);
+        EXPECT_EQ(diario, (Diario{"disable 1", "enable 1", "disable 1", "enable 1"}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, TypingLeavesOkAsItIs) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"3");
+        dialogo.type(Cadena, L"C");
+        dialogo.type(Valor, L"4");
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// The numbers and the text are exchanged before the flags: the decimals, the code, the value.
+
+TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveEverythingUnreadByTheClick) {
+    for (const wchar_t* const malo : {L"", L"1.5", L"some", L"2147483648"}) {
+        const auto resultado =
+            Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [&](kit::Dialog& dialogo) {
+                dialogo.type(Entero, malo);
+                dialogo.type(Cadena, L"Typed");
+                dialogo.type(Valor, L"99");
+                dialogo.click(Dibujo1);
+                EXPECT_EQ(dialogo.focus(), Entero);
+                EXPECT_EQ(dialogo.text(Entero), malo);
+                dialogo.click(Dibujo2);
+                // Neither box is ticked, but OK is enabled by the flags of
+                // before.
+                EXPECT_FALSE(dialogo.checked(Dibujo1));
+                EXPECT_FALSE(dialogo.checked(Dibujo2));
+                EXPECT_TRUE(dialogo.enabled(IDOK));
+                dialogo.press(IDCANCEL);
+            });
+        EXPECT_EQ(resultado, IDCANCEL);
+        EXPECT_EQ(data.m_EnteroCambio, 2);
+        EXPECT_EQ(data.m_CadenaCambio, L"SC");
+        EXPECT_EQ(data.m_ValorCambio, 12.5);
+        EXPECT_EQ(data.m_GenerarDibujo1, 1);
+        EXPECT_EQ(data.m_GenerarDibujo2, 1);
+    }
+}
+
+TEST_F(CambiosPendienteTINDlg, BadValueLeavesTheFlagsUnreadByTheClick) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"3");
+        dialogo.type(Cadena, L"Typed");
+        dialogo.type(Valor, L"steep");
+        dialogo.click(Dibujo1);
+        EXPECT_EQ(dialogo.focus(), Valor);
+        EXPECT_TRUE(dialogo.checked(Dibujo1));
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        // The next click reads what is there then.
+        dialogo.type(Valor, L"5");
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.click(Dibujo2);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_CadenaCambio, L"Typed");
+    EXPECT_EQ(data.m_ValorCambio, 5);
+    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_GenerarDibujo2, 1);
+}
+
+TEST_F(CambiosPendienteTINDlg, WhatComesBeforeABadValueIsInTheRecord) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"3");
+        dialogo.type(Cadena, L"Typed");
+        dialogo.type(Valor, L"steep");
+        dialogo.click(Dibujo1);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_CadenaCambio, L"Typed");
+    EXPECT_EQ(data.m_ValorCambio, 12.5);
+    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+}
+
+// OK.
+
+TEST_F(CambiosPendienteTINDlg, OkLeavesEverythingInTheRecord) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"3");
+        dialogo.type(Cadena, L"C 5");
+        dialogo.type(Valor, L"1e2");
+        dialogo.click(Dibujo2);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_CadenaCambio, L"C 5");
+    EXPECT_EQ(data.m_ValorCambio, 100);
+    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_GenerarDibujo2, 0);
+}
+
+TEST_F(CambiosPendienteTINDlg, OkChecksNoRangeAndNoText) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"-2147483648");
+        dialogo.type(Cadena, L"");
+        dialogo.type(Valor, L"-1e300");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_EnteroCambio, INT_MIN);
+    EXPECT_EQ(data.m_CadenaCambio, L"");
+    EXPECT_EQ(data.m_ValorCambio, -1e300);
+}
+
+TEST_F(CambiosPendienteTINDlg, OkReadsTheRecordInItsOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(LeidosPorOk(dialogo, {Dibujo2, Dibujo1, Valor, Cadena, Entero}),
+                  (std::vector<int>{Entero, Cadena, Valor, Dibujo1, Dibujo2}));
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, OkCommandClosesItWithNeitherDrawing) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.click(Dibujo1);
+        dialogo.click(Dibujo2);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.type(Cadena, L"Typed");
+        dialogo.command(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_GenerarDibujo1, 0);
+    EXPECT_EQ(data.m_GenerarDibujo2, 0);
+    EXPECT_EQ(data.m_CadenaCambio, L"Typed");
+}
+
+TEST_F(CambiosPendienteTINDlg, BadNumberIsRefusedOnceByOk) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"3");
+        dialogo.type(Valor, L"2,5");
+        dialogo.press(IDOK);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        EXPECT_EQ(dialogo.focus(), Valor);
+        EXPECT_EQ(dialogo.text(Valor), L"2,5");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_ValorCambio, 12.5);
+}
+
+TEST_F(CambiosPendienteTINDlg, OkStaysOpenWhereTheHostRefusesTheExchange) {
+    CDesconfiado<CCambiosPendienteTINDlg> dlg(data);
+    dlg.rechazado = 2; // the first one opens it
+    EXPECT_EQ(Abre(dlg, {},
+                   [](kit::Dialog& dialogo) {
+                       dialogo.press(IDOK);
+                       EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+                       dialogo.press(IDCANCEL);
+                   }),
+              IDCANCEL);
+}
+
+// Cancel.
+
+TEST_F(CambiosPendienteTINDlg, CancelWithoutAClickKeepsTheRecord) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  dialogo.type(Entero, L"3");
+                  dialogo.type(Cadena, L"Typed");
+                  dialogo.type(Valor, L"4");
+                  dialogo.press(IDCANCEL);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 2);
+    EXPECT_EQ(data.m_CadenaCambio, L"SC");
+    EXPECT_EQ(data.m_ValorCambio, 12.5);
+    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_GenerarDibujo2, 1);
+}
+
+TEST_F(CambiosPendienteTINDlg, CancelKeepsWhatTheClickExchanged) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  dialogo.type(Entero, L"3");
+                  dialogo.type(Cadena, L"Typed");
+                  dialogo.type(Valor, L"4");
+                  dialogo.click(Dibujo2);
+                  dialogo.press(IDCANCEL);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_CadenaCambio, L"Typed");
+    EXPECT_EQ(data.m_ValorCambio, 4);
+    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_GenerarDibujo2, 0);
+}
+
+// By keyboard alone.
+
+TEST_F(CambiosPendienteTINDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(
+            RecorreConTabulador(dialogo),
+            (std::vector<int>{Valor, Entero, Cadena, Dibujo1, Dibujo2, IDOK, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, KeyboardPassesTheDisabledOk) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Valor, Entero, Cadena, Dibujo1, Dibujo2, IDCANCEL, ID_HELP}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, MnemonicsReachTheirControls) {
+    Abre([this](kit::Dialog& dialogo) {
+        kit::keyboard::mnemonic(L'd');
+        EXPECT_EQ(dialogo.focus(), Entero);
+        kit::keyboard::mnemonic(L'c');
+        EXPECT_EQ(dialogo.focus(), Cadena);
+        kit::keyboard::mnemonic(L'l');
+        EXPECT_EQ(dialogo.focus(), Valor);
+        kit::keyboard::mnemonic(L'r');
+        EXPECT_EQ(dialogo.focus(), Dibujo1);
+        EXPECT_EQ(data.m_GenerarDibujo1, 0);
+        kit::keyboard::mnemonic(L'v');
+        EXPECT_EQ(dialogo.focus(), Dibujo2);
+        EXPECT_EQ(data.m_GenerarDibujo2, 0);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        kit::keyboard::mnemonic(L'h');
+        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151185));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, SpaceTicksABox) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    Abre([this](kit::Dialog& dialogo) {
+        dialogo.focusOn(Dibujo2);
+        kit::keyboard::press(VK_SPACE);
+        EXPECT_EQ(data.m_GenerarDibujo2, 1);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, EnterIsOkAndEscapeIsCancel) {
+    CompruebaSalidas();
+}
+
+TEST_F(CambiosPendienteTINDlg, EnterPressesNoDisabledOk) {
+    data.m_GenerarDibujo1 = FALSE;
+    data.m_GenerarDibujo2 = FALSE;
+    ConIntercambios<CCambiosPendienteTINDlg> contador(data);
+    const auto resultado = Abre(contador, {}, [&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "MMS");
+        for (const int control : {Valor, Cadena, Dibujo1}) {
+            dialogo.focusOn(control);
+            kit::keyboard::press(VK_RETURN);
+            EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+            EXPECT_EQ(dialogo.focus(), control);
+        }
+        EXPECT_FALSE(dialogo.checked(Dibujo1));
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
+// Help.
+
+TEST_F(CambiosPendienteTINDlg, F1AndTheHelpButtonOpenItsPage) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaAyuda(dialogo, {Entero, Cadena, Dibujo1}, 151185);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
+    CompruebaAyudaDerivada<CCambiosPendienteTINDlg>(data);
+}
+
+// A host's own class on top of the dialog.
+
+TEST_F(CambiosPendienteTINDlg, HostSeesEachExchangeAsItIsDocumented) {
+    ConIntercambios<CCambiosPendienteTINDlg> contador(data);
+    const auto resultado = Abre(contador, {}, [&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "MMS");
+        dialogo.type(Valor, L"4");
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.click(Dibujo1);
+        EXPECT_EQ(contador.Intercambios(), "S");
+        dialogo.click(Dibujo1);
+        EXPECT_EQ(contador.Intercambios(), "S");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(contador.Intercambios(), "S");
+}
+
+TEST_F(CambiosPendienteTINDlg, HostCallsTheHandlerItself) {
+    CCambiosPendienteTINDlg dlg(data);
+    Abre(dlg, {}, [&](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"4");
+        dlg.CheckDlgButton(Dibujo1, BST_UNCHECKED);
+        dlg.CheckDlgButton(Dibujo2, BST_UNCHECKED);
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dlg.OnBnClickedGenerarDibujo();
+        EXPECT_EQ(data.m_GenerarDibujo1, 0);
+        EXPECT_EQ(data.m_GenerarDibujo2, 0);
+        EXPECT_EQ(data.m_ValorCambio, 4);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dlg.CheckDlgButton(Dibujo2, BST_CHECKED);
+        dlg.OnBnClickedGenerarDibujo();
+        EXPECT_TRUE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CambiosPendienteTINDlg, HasClassInformationOfItsOwn) {
+    EXPECT_EQ(CCambiosPendienteTINDlg::GetThisClass(), RUNTIME_CLASS(CCambiosPendienteTINDlg));
+    CompruebaClase(CCambiosPendienteTINDlg(data), RUNTIME_CLASS(CCambiosPendienteTINDlg),
+                   "CCambiosPendienteTINDlg");
+}
+
+TEST_F(CambiosPendienteTINDlg, LeavesNothingBehind) {
+    CompruebaQueNadaQueda([this] {
+        Abre([](kit::Dialog& dialogo) {
+            dialogo.click(Dibujo1);
+            dialogo.press(IDCANCEL);
+        });
+    });
+}
+
+} // namespace

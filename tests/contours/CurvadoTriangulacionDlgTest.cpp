@@ -1,5 +1,377 @@
+// A surveyor draws contours straight from a triangulation. He says at which interval and under
+// which code; OK wants an interval above zero and a code, and the host reads both from the dialog.
 #include "cuadros/contours/CurvadoTriangulacionDlg.h"
 
-#include "checks/Comprobaciones.h"
+#include "ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
+
+namespace {
+
+using Cotana::CCurvadoTriangulacionDlg;
+
+constexpr int Equidistancia = IDC_CURVADO_TRIANGULACION_EQUIDISTANCIA;
+constexpr int Cadena = IDC_CURVADO_TRIANGULACION_CADENA;
+
+static_assert(IDD_CURVADO_TRIANGULACION == 14433);
+static_assert(Equidistancia == 19203);
+static_assert(Cadena == 18067);
+static_assert(IDI_TRIANGULACION == 19011);
+static_assert(IDS_VALOR_NO_POSITIVO == 19076);
+static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
+
+class CurvadoTriangulacionDlg : public ConDialogo {
+protected:
+    INT_PTR Ejecuta(CWnd* padre) override {
+        CCurvadoTriangulacionDlg dlg(equidistancia, cadena, padre);
+        const auto resultado = dlg.DoModal();
+        leida = dlg.m_Equidistancia;
+        codigo = dlg.m_Cadena;
+        return resultado;
+    }
+
+    double equidistancia = 2.5;
+    CString cadena = L"CV";
+
+    // What the dialog has afterwards.
+    double leida = -1;
+    CString codigo;
+};
+
+// What the user sees first.
+
+TEST_F(CurvadoTriangulacionDlg, ShowsTheIntervalAndTheCode) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.caption(), L"Contours of a Triangulation");
+        EXPECT_EQ(dialogo.text(Equidistancia), L"2.5");
+        EXPECT_EQ(dialogo.text(Cadena), L"CV");
+        EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
+        dialogo.picture(L"CurvadoTriangulacionDlg");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, OpensByOneExchange) {
+    ConDiario<CCurvadoTriangulacionDlg> conDiario(equidistancia, cadena);
+    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(conDiario.diario, Diario{"M"});
+}
+
+TEST_F(CurvadoTriangulacionDlg, OpensInTheMiddleOfItsOwner) {
+    CompruebaQueSeCentra();
+}
+
+TEST_F(CurvadoTriangulacionDlg, HasItsSmallIconOnly) {
+    Abre([](kit::Dialog& dialogo) {
+        CompruebaIcono(dialogo, IDI_TRIANGULACION);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// OK.
+
+TEST_F(CurvadoTriangulacionDlg, HostReadsBothAfterOk) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  dialogo.type(Equidistancia, L"1e1");
+                  dialogo.type(Cadena, L"C 5");
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(leida, 10);
+    EXPECT_EQ(codigo, L"C 5");
+    EXPECT_EQ(cadena, L"CV") << "the host's own text is only copied";
+}
+
+TEST_F(CurvadoTriangulacionDlg, IntervalComesBackRoundedTo15DigitsByOkAlone) {
+    equidistancia = 0.1 + 0.2;
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  EXPECT_EQ(dialogo.text(Equidistancia), L"0.3");
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(leida, 0.3);
+    Abre([](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(leida, 0.1 + 0.2);
+}
+
+TEST_F(CurvadoTriangulacionDlg, IntervalsAboveTheToleranceAreTaken) {
+    const struct {
+        const wchar_t* texto;
+        double valor;
+    } casos[] = {{L"0.0000002", 2e-7}, {L"1.1e-7", 1.1e-7}, {L"1000000", 1e6}};
+    for (const auto& caso : casos) {
+        const auto resultado = Abre([&](kit::Dialog& dialogo) {
+            dialogo.type(Equidistancia, caso.texto);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(leida, caso.valor);
+    }
+}
+
+TEST_F(CurvadoTriangulacionDlg, IntervalsUpToTheToleranceAreRefused) {
+    const struct {
+        const wchar_t* texto;
+        double valor;
+    } casos[] = {{L"0.00000005", 5e-8}, {L"1e-7", 1e-7},   {L"0", 0},
+                 {L"-1e-7", -1e-7},     {L"-2e-7", -2e-7}, {L"-5", -5}};
+    for (const auto& caso : casos) {
+        const auto resultado = Abre({IDS_VALOR_NO_POSITIVO}, [&](kit::Dialog& dialogo) {
+            dialogo.type(Equidistancia, caso.texto);
+            dialogo.press(IDOK);
+            dialogo.press(IDCANCEL);
+        });
+        EXPECT_EQ(resultado, IDCANCEL);
+        // As the exchange left it.
+        EXPECT_EQ(leida, caso.valor);
+        EXPECT_EQ(codigo, L"CV");
+    }
+}
+
+TEST_F(CurvadoTriangulacionDlg, EmptyCodeIsRefused) {
+    EXPECT_EQ(Abre({IDS_TEXTO_OBLIGATORIO},
+                   [](kit::Dialog& dialogo) {
+                       dialogo.type(Cadena, L"");
+                       dialogo.press(IDOK);
+                       dialogo.press(IDCANCEL);
+                   }),
+              IDCANCEL);
+    EXPECT_EQ(codigo, L"");
+    EXPECT_EQ(cadena, L"CV");
+}
+
+TEST_F(CurvadoTriangulacionDlg, CodeOfOneBlankIsTaken) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  dialogo.type(Cadena, L" ");
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(codigo, L" ");
+}
+
+TEST_F(CurvadoTriangulacionDlg, IntervalIsRefusedBeforeTheEmptyCode) {
+    const auto resultado =
+        Abre({IDS_VALOR_NO_POSITIVO, IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
+            dialogo.type(Equidistancia, L"-1");
+            dialogo.type(Cadena, L"");
+            dialogo.press(IDOK); // one message, not two
+            dialogo.type(Equidistancia, L"1");
+            dialogo.press(IDOK);
+            dialogo.type(Cadena, L"C");
+            dialogo.press(IDOK);
+        });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(leida, 1);
+    EXPECT_EQ(codigo, L"C");
+}
+
+TEST_F(CurvadoTriangulacionDlg, NegativeIntervalAndEmptyCodeGiveOneMessage) {
+    const auto resultado = Abre({IDS_VALOR_NO_POSITIVO}, [](kit::Dialog& dialogo) {
+        dialogo.type(Equidistancia, L"-1");
+        dialogo.type(Cadena, L"");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(leida, -1);
+    EXPECT_EQ(codigo, L"");
+}
+
+TEST_F(CurvadoTriangulacionDlg, RefusalStaysOpenAndMovesNoFocus) {
+    Abre({IDS_VALOR_NO_POSITIVO, IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
+        dialogo.type(Equidistancia, L"0");
+        dialogo.focusOn(Cadena);
+        kit::keyboard::press(VK_RETURN);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        EXPECT_EQ(dialogo.focus(), Cadena);
+        EXPECT_EQ(dialogo.text(Equidistancia), L"0");
+
+        dialogo.type(Cadena, L"");
+        dialogo.type(Equidistancia, L"1");
+        kit::keyboard::press(VK_RETURN);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        EXPECT_EQ(dialogo.focus(), Equidistancia);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, OkReadsTheIntervalFirst) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(LeidosPorOk(dialogo, {Cadena, Equidistancia}),
+                  (std::vector<int>{Equidistancia, Cadena, Equidistancia, Cadena}));
+    });
+}
+
+// Texts that are no numbers.
+
+TEST_F(CurvadoTriangulacionDlg, BadIntervalIsRefusedTwiceByOk) {
+    for (const wchar_t* const malo : {L"", L"wide", L"2,5", L"2 m"}) {
+        const auto resultado =
+            Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
+                dialogo.type(Equidistancia, malo);
+                dialogo.type(Cadena, L"");
+                dialogo.press(IDOK);
+                EXPECT_EQ(dialogo.focus(), Equidistancia);
+                EXPECT_EQ(dialogo.text(Equidistancia), malo);
+                dialogo.press(IDCANCEL);
+            });
+        EXPECT_EQ(resultado, IDCANCEL);
+        // The interval is exchanged first, so that not even the empty code was read.
+        EXPECT_EQ(leida, 2.5);
+        EXPECT_EQ(codigo, L"CV");
+    }
+}
+
+TEST_F(CurvadoTriangulacionDlg, BadIntervalIsFollowedByTheChecksOfTheValuesBefore) {
+    equidistancia = 0;
+    Abre({AFX_IDP_PARSE_REAL, IDS_VALOR_NO_POSITIVO}, [](kit::Dialog& dialogo) {
+        dialogo.type(Equidistancia, L"wide");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+    equidistancia = 1;
+    cadena.Empty();
+    Abre({AFX_IDP_PARSE_REAL, IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
+        dialogo.type(Equidistancia, L"wide");
+        dialogo.type(Cadena, L"C");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, OkGoesOnAfterARefusedExchangeOfItsOwn) {
+    CDesconfiado<CCurvadoTriangulacionDlg> dlg(equidistancia, cadena);
+    EXPECT_EQ(Abre(dlg, {}, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+}
+
+// Cancel.
+
+TEST_F(CurvadoTriangulacionDlg, CancelReadsNothing) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  dialogo.type(Equidistancia, L"7");
+                  dialogo.type(Cadena, L"C");
+                  dialogo.press(IDCANCEL);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(leida, 2.5);
+    EXPECT_EQ(codigo, L"CV");
+}
+
+// By keyboard alone.
+
+TEST_F(CurvadoTriangulacionDlg, KeyboardReachesEveryControlInReadingOrder) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(RecorreConTabulador(dialogo),
+                  (std::vector<int>{Equidistancia, Cadena, IDOK, IDCANCEL}));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, MnemonicsReachTheirControls) {
+    Abre([](kit::Dialog& dialogo) {
+        kit::keyboard::mnemonic(L'c');
+        EXPECT_EQ(dialogo.focus(), Cadena);
+        kit::keyboard::mnemonic(L'i');
+        EXPECT_EQ(dialogo.focus(), Equidistancia);
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, EnterIsOkAndEscapeIsCancel) {
+    CompruebaSalidas();
+}
+
+// Help.
+
+TEST_F(CurvadoTriangulacionDlg, HasNoHelp) {
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_FALSE(dialogo.exists(ID_HELP));
+        dialogo.focusOn(Cadena);
+        dialogo.help();
+        dialogo.helpOn(Equidistancia);
+        dialogo.command(ID_HELP);
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        EXPECT_TRUE(kit::app.takeHelpRequests().empty());
+        dialogo.press(IDCANCEL);
+    });
+}
+
+// A host's own class on top of the dialog.
+
+TEST_F(CurvadoTriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
+    ConIntercambios<CCurvadoTriangulacionDlg> contador(equidistancia, cadena);
+    const auto resultado = Abre(contador, {IDS_TEXTO_OBLIGATORIO}, [&](kit::Dialog& dialogo) {
+        EXPECT_EQ(contador.Intercambios(), "M");
+        dialogo.type(Cadena, L"");
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDOK);
+        EXPECT_EQ(contador.Intercambios(), "S");
+        dialogo.type(Cadena, L"C");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(contador.Intercambios(), "SS");
+}
+
+TEST_F(CurvadoTriangulacionDlg, CodeIsCopiedWhenTheDialogIsMade) {
+    CCurvadoTriangulacionDlg dlg(equidistancia, cadena);
+    cadena = L"Changed";
+    EXPECT_EQ(dlg.m_Equidistancia, 2.5);
+    EXPECT_EQ(dlg.m_Cadena, L"CV");
+    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Cadena), L"CV");
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(CurvadoTriangulacionDlg, HostFillsItsMembersBeforeItOpens) {
+    CCurvadoTriangulacionDlg dlg(equidistancia, cadena);
+    dlg.m_Equidistancia = 4;
+    dlg.m_Cadena = L"D";
+    EXPECT_EQ(Abre(dlg, {},
+                   [](kit::Dialog& dialogo) {
+                       EXPECT_EQ(dialogo.text(Equidistancia), L"4");
+                       EXPECT_EQ(dialogo.text(Cadena), L"D");
+                       dialogo.press(IDOK);
+                   }),
+              IDOK);
+    EXPECT_EQ(dlg.m_Equidistancia, 4);
+    EXPECT_EQ(dlg.m_Cadena, L"D");
+}
+
+TEST_F(CurvadoTriangulacionDlg, MembersFollowEachOtherInTheirOrder) {
+    const CCurvadoTriangulacionDlg dlg(equidistancia, cadena);
+    EXPECT_LT(static_cast<const void*>(&dlg.m_Equidistancia),
+              static_cast<const void*>(&dlg.m_Cadena));
+}
+
+TEST_F(CurvadoTriangulacionDlg, HostCallsTheHandlerItself) {
+    CCurvadoTriangulacionDlg dlg(equidistancia, cadena);
+    const auto resultado = Abre(dlg, {IDS_TEXTO_OBLIGATORIO}, [&](kit::Dialog& dialogo) {
+        dialogo.type(Cadena, L"");
+        dlg.OnOK();
+        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+        dialogo.type(Cadena, L"C");
+        dlg.OnOK();
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(dlg.m_Cadena, L"C");
+}
+
+TEST_F(CurvadoTriangulacionDlg, HasClassInformationOfItsOwn) {
+    EXPECT_EQ(CCurvadoTriangulacionDlg::GetThisClass(), RUNTIME_CLASS(CCurvadoTriangulacionDlg));
+    CompruebaClase(CCurvadoTriangulacionDlg(equidistancia, cadena),
+                   RUNTIME_CLASS(CCurvadoTriangulacionDlg), "CCurvadoTriangulacionDlg");
+}
+
+TEST_F(CurvadoTriangulacionDlg, LeavesNothingBehind) {
+    CompruebaQueNadaQueda([this] {
+        Abre({IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
+            dialogo.type(Cadena, L"");
+            dialogo.press(IDOK);
+            dialogo.press(IDCANCEL);
+        });
+    });
+}
+
+} // namespace

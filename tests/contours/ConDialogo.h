@@ -1,0 +1,139 @@
+// What the tests of the dialogs of contours and slopes have in common: a conversation over values
+// of the test's own, and the diary of what happens to the controls.
+#pragma once
+
+#include "checks/Comprobaciones.h"
+#include "cuadros/resources/StringIds.h"
+
+#include <functional>
+#include <initializer_list>
+#include <list>
+#include <optional>
+#include <string>
+#include <vector>
+
+static_assert(IDS_TITULO_MENSAJES == 15105);
+static_assert(ID_HELP == 57670);
+
+/// A test of one dialog, which the test's class opens over its own values.
+class ConDialogo : public testing::Test {
+protected:
+    using Paso = std::function<void(kit::Dialog&)>;
+    /// Refusals that come one after the other: numbers of the dialog's messages, or of the
+    /// framework's own prompts.
+    using Mensajes = std::initializer_list<UINT>;
+
+    /// Runs the dialog over the test's values.
+    virtual INT_PTR Ejecuta(CWnd* padre) = 0;
+
+    /// Opens the dialog and does `paso` in it; `mensajes` come meanwhile.
+    INT_PTR Abre(Mensajes mensajes, const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Conduce([this] { return Ejecuta(nullptr); }, mensajes, paso, donde);
+    }
+    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
+        return Abre({}, paso, donde);
+    }
+
+    /// The same with a dialog that the test has made.
+    static INT_PTR Abre(CDialog& dialogo, Mensajes mensajes, const Paso& paso,
+                        kit::Where donde = kit::Where::current()) {
+        return Conduce([&] { return dialogo.DoModal(); }, mensajes, paso, donde);
+    }
+
+    void CompruebaQueSeCentra() {
+        CompruebaCentro([this](CWnd* duena) { return Ejecuta(duena); });
+    }
+
+    /// Enter is OK; Escape and the caption's close box are Cancel.
+    void CompruebaSalidas() {
+        const auto acepta = [](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.defaultButton(), IDOK);
+            kit::keyboard::press(VK_RETURN);
+        };
+        EXPECT_EQ(Abre(acepta), IDOK);
+        EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+        EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    }
+
+private:
+    static INT_PTR Conduce(const std::function<INT_PTR()>& conversacion, Mensajes mensajes,
+                           const Paso& paso, kit::Where donde) {
+        kit::Script guion;
+        guion.onDialog(paso, donde);
+        for (const UINT mensaje : mensajes) {
+            if (mensaje >= AFX_IDP_PARSE_INT)
+                EsperaAviso(guion, mensaje, 1, donde);
+            else
+                guion
+                    .expectMessage(TextoDe(IDS_TITULO_MENSAJES), TextoDe(mensaje), MB_ICONERROR,
+                                   donde)
+                    .buttons(MB_OK)
+                    .ownedByDialog();
+        }
+        return guion.run(conversacion, donde);
+    }
+};
+
+/// The controls of a dialog, in its order.
+inline std::vector<HWND> ControlesDe(HWND dialogo) {
+    std::vector<HWND> controles;
+    for (HWND control = GetWindow(dialogo, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        controles.push_back(control);
+    return controles;
+}
+
+/// The numbers of all controls of a dialog that have this style, in its order.
+inline std::vector<int> ControlesCon(const kit::Dialog& dialogo, LONG_PTR estilo) {
+    std::vector<int> numeros;
+    for (const HWND control : ControlesDe(dialogo.handle()))
+        if ((GetWindowLongPtrW(control, GWL_STYLE) & estilo) != 0)
+            numeros.push_back(GetDlgCtrlID(control));
+    return numeros;
+}
+
+/// What happens, in its order: "hide 20239", "enable 20047" and the like for the controls, "M" and
+/// "S" for the exchanges as in `ConIntercambios`.
+using Diario = std::vector<std::string>;
+
+/// For its life writes down which controls of a dialog are hidden, shown, disabled and enabled.
+class EscuchaControles {
+public:
+    EscuchaControles(HWND dialogo, Diario& diario) {
+        for (const HWND control : ControlesDe(dialogo)) {
+            const auto numero = std::to_string(GetDlgCtrlID(control));
+            m_Escuchas.emplace_back(control, [&diario, numero](UINT mensaje, WPARAM si, LPARAM) {
+                if (mensaje == WM_SHOWWINDOW)
+                    diario.push_back((si ? "show " : "hide ") + numero);
+                if (mensaje == WM_ENABLE)
+                    diario.push_back((si ? "enable " : "disable ") + numero);
+                return std::optional<LRESULT>();
+            });
+        }
+    }
+
+private:
+    std::list<Escucha> m_Escuchas;
+};
+
+/// A dialog of class `Dlg` that keeps a diary of its opening.
+template <class Dlg>
+class ConDiario : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    BOOL OnInitDialog() override {
+        const EscuchaControles escucha(this->m_hWnd, diario);
+        const BOOL resultado = Dlg::OnInitDialog();
+        EXPECT_TRUE(resultado) << "the focus is the framework's to set";
+        return resultado;
+    }
+
+    Diario diario;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        diario.emplace_back(pDX->m_bSaveAndValidate ? "S" : "M");
+        Dlg::DoDataExchange(pDX);
+    }
+};

@@ -10,8 +10,8 @@ namespace {
 constexpr double Valor1PorEscala = 0.00004;
 constexpr double Valor2PorEscala = 0.0002;
 
-/// A kilometre is more than any map's line is off by.
-constexpr double ValorMaximo = 1000;
+/// More than what follows from any scale.
+constexpr double ValorMaximo = 1000000;
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "sample/Ficha.h"
+#include "sample/Orden.h"
 #include "sample/Terreno.h"
 #include "sample/Visita.h"
 
@@ -23,6 +24,8 @@ struct Conversacion {
     Ficha (*ficha)(const Terreno&);
     /// What the tour does in the dialog.
     void (*conduce)(Visita&);
+    /// The command that the host carries out over an accepted record; null where it has none here.
+    Hecho (*ejecuta)(const Terreno&) = nullptr;
 };
 
 /// All of them, those of a subsystem one after another. A new dialog is one more row.

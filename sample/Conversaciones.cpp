@@ -1,4 +1,5 @@
 #include "sample/Conversacion.h"
+#include "sample/DibujoCurvas.h"
 
 #include "sample/conversaciones/CambiosPendienteTIN.h"
 #include "sample/conversaciones/Curvado.h"
@@ -35,7 +36,7 @@ const std::vector<Conversacion>& Conversaciones() {
          PreparaLimpiarRelieveRangoZ, AbreLimpiarRelieveRangoZ, FichaLimpiarRelieveRangoZ,
          ConduceLimpiarRelieveRangoZ},
         {L"Contours and slopes", L"Contour options", L"CurvadoDlg", 151165, PreparaCurvado,
-         AbreCurvado, FichaCurvado, ConduceCurvado},
+         AbreCurvado, FichaCurvado, ConduceCurvado, DibujaCurvas},
         {L"Contours and slopes", L"Contour codes", L"CurvadoCodigosDlg", 151074,
          PreparaCurvadoCodigos, AbreCurvadoCodigos, FichaCurvadoCodigos, ConduceCurvadoCodigos},
         {L"Contours and slopes", L"Contours of a triangulation", L"CurvadoTriangulacionDlg", 0,

@@ -11,6 +11,7 @@
 #include "sample/LineaOrdenes.h"
 #include "sample/Recorrido.h"
 #include "sample/Rutas.h"
+#include "sample/terrain/AscGridFile.h"
 
 namespace {
 
@@ -36,7 +37,11 @@ BOOL CEjemploApp::InitInstance() {
     const LineaOrdenes linea = LineaDelPrograma();
     CString error = linea.error;
     if (error.IsEmpty())
-        error = LeeTerreno(linea.ficheroCodigos);
+        error = LeeTerreno(linea);
+    if (error.IsEmpty())
+        error = HazCarpeta(linea.carpetaDibujos.IsEmpty() ? linea.carpetaRecorrido
+                                                          : linea.carpetaDibujos,
+                           m_Terreno.carpetaDibujos);
     if (!error.IsEmpty()) {
         if (!Escribe(error + L"\n", true))
             AfxMessageBox(error, MB_ICONERROR);
@@ -56,15 +61,20 @@ BOOL CEjemploApp::InitInstance() {
     return FALSE; // the program was the dialog, or the tour: there is no message loop to run
 }
 
-CString CEjemploApp::LeeTerreno(const CString& ficheroCodigos) {
+CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
     const CString carpeta = BuscaHaciaArriba(L"sample\\data");
     m_Terreno.carpetaNubes = carpeta + L"\\clouds";
-    const CString error = ReadCodeTableFile(
-        ficheroCodigos.IsEmpty() ? carpeta + L"\\survey-codes.txt" : ficheroCodigos,
+    CString error = ReadCodeTableFile(
+        linea.ficheroCodigos.IsEmpty() ? carpeta + L"\\survey-codes.txt" : linea.ficheroCodigos,
         m_Terreno.codigos);
-    if (!error.IsEmpty())
-        return error;
-    return ReadClassificationFile(carpeta + L"\\classifications.txt", m_Terreno.clasificaciones);
+    if (error.IsEmpty())
+        error =
+            ReadClassificationFile(carpeta + L"\\classifications.txt", m_Terreno.clasificaciones);
+    if (error.IsEmpty())
+        error = ReadAscGridFile(linea.ficheroRejilla.IsEmpty() ? carpeta + L"\\terrain\\hills.asc"
+                                                               : linea.ficheroRejilla,
+                                m_Terreno.modelo);
+    return error;
 }
 
 int CEjemploApp::ExitInstance() {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "cotana/aplicacion/Aplicacion.h"
+#include "sample/LineaOrdenes.h"
 #include "sample/Terreno.h"
 
 /// The sample host: owns the terrain, opens the conversations, answers their requests for help.
@@ -24,8 +25,8 @@ public:
     std::vector<DWORD_PTR> RecogeAyudas();
 
 private:
-    /// Reads the survey; what is wrong with a file, or empty.
-    CString LeeTerreno(const CString& ficheroCodigos);
+    /// Reads the survey and the terrain model; what is wrong with a file, or empty.
+    CString LeeTerreno(const LineaOrdenes& linea);
 
     Terreno m_Terreno;
     std::vector<DWORD_PTR> m_Ayudas;

@@ -54,7 +54,7 @@ void CLanzadorDlg::OnEligeConversacion(NMHDR*, LRESULT* pResult) {
     *pResult = 0;
     const Conversacion* elegida = Elegida();
     GetDlgItem(IDC_LANZADOR_ABRIR)->EnableWindow(elegida != nullptr);
-    SetDlgItemText(IDC_LANZADOR_RESULTADO, L"");
+    MuestraResultado(L"");
     m_Ficha.DeleteAllItems();
     if (elegida) {
         elegida->prepara(m_Terreno);
@@ -76,9 +76,19 @@ void CLanzadorDlg::OnAbrir() {
     const Ficha antes = elegida->ficha(m_Terreno);
     const INT_PTR resultado = elegida->abre(m_Terreno, this);
     MuestraFicha(antes, elegida->ficha(m_Terreno));
-    SetDlgItemText(IDC_LANZADOR_RESULTADO, resultado == IDOK       ? L"Accepted."
-                                           : resultado == IDCANCEL ? L"Cancelled."
-                                                                   : L"The dialog did not open.");
+    MuestraResultado(resultado == IDOK       ? L"Accepted."
+                     : resultado == IDCANCEL ? L"Cancelled."
+                                             : L"The dialog did not open.");
+    if (resultado == IDOK && elegida->ejecuta) {
+        const Hecho hecho = elegida->ejecuta(m_Terreno);
+        MuestraResultado(hecho.texto);
+        if (hecho.fallo)
+            AfxMessageBox(hecho.texto, MB_ICONERROR);
+    }
+}
+
+void CLanzadorDlg::MuestraResultado(const CString& texto) {
+    SetDlgItemText(IDC_LANZADOR_RESULTADO, texto);
 }
 
 void CLanzadorDlg::MuestraFicha(const Ficha& antes, const Ficha& despues) {

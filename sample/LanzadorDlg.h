@@ -23,6 +23,7 @@ private:
     void LlenaArbol();
     /// The chosen conversation; null while a subsystem is chosen.
     const Conversacion* Elegida() const;
+    void MuestraResultado(const CString& texto);
     void MuestraFicha(const Ficha& antes, const Ficha& despues);
 
     Terreno& m_Terreno;

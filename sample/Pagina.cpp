@@ -123,6 +123,18 @@ std::string Tabla(const Parada& parada) {
     return html + "</table></div>\n";
 }
 
+/// @param tipo kind of the picture, as the web names it.
+bool AnadeImagen(std::string& html, const Parada& parada, const CString& ruta, const char* tipo,
+                 const CString& pie) {
+    const auto imagen = Lee(ruta);
+    if (!imagen)
+        return false;
+    html += "<figure><img alt=\"" + Html(parada.titulo) + "\" src=\"data:image/" + tipo +
+            ";base64," + Base64(*imagen) + "\"><figcaption>" + Html(pie) +
+            "</figcaption></figure>\n";
+    return true;
+}
+
 } // namespace
 
 bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
@@ -133,13 +145,12 @@ bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
             html += " <small>" + Html(parada.subsistema) + "</small>";
         html += "</h2>\n";
         for (const Visita::Foto& foto : parada.fotos) {
-            const auto imagen = Lee(carpeta + L"\\" + foto.fichero);
-            if (!imagen)
+            if (!AnadeImagen(html, parada, carpeta + L"\\" + foto.fichero, "png", foto.pie))
                 return false;
-            html += "<figure><img alt=\"" + Html(parada.titulo) +
-                    "\" src=\"data:image/png;base64," + Base64(*imagen) + "\"><figcaption>" +
-                    Html(foto.pie) + "</figcaption></figure>\n";
         }
+        if (!parada.dibujo.IsEmpty() &&
+            !AnadeImagen(html, parada, parada.dibujo, "svg+xml", parada.hecho))
+            return false;
         if (!parada.antes.empty())
             html += Tabla(parada);
         for (const DWORD_PTR ayuda : parada.ayudas)

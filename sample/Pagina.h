@@ -12,6 +12,8 @@ struct Parada {
     Ficha antes, despues;
     std::vector<DWORD_PTR> ayudas; ///< Contexts for which help was asked.
     std::vector<Visita::Foto> fotos;
+    CString hecho;  ///< What came of the host's command; empty when there was none.
+    CString dibujo; ///< Full path of an SVG file that the command has drawn; empty without one.
 };
 
 /// Writes index.html into the tour's folder: one file with the pictures in it.

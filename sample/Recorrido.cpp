@@ -1,10 +1,9 @@
 #include "sample/Recorrido.h"
 
-#include <shlobj.h>
-
 #include "sample/Conversacion.h"
 #include "sample/LanzadorDlg.h"
 #include "sample/Pagina.h"
+#include "sample/Rutas.h"
 
 namespace {
 
@@ -57,6 +56,14 @@ Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Te
     if (resultado != IDOK)
         kit::fail("the conversation was not accepted");
     parada.despues = conversacion.ficha(terreno);
+    if (resultado == IDOK && conversacion.ejecuta) {
+        const Hecho hecho = conversacion.ejecuta(terreno);
+        if (hecho.fallo)
+            kit::fail(Utf8(hecho.texto));
+        parada.hecho = hecho.texto;
+        if (!hecho.dibujo.IsEmpty())
+            parada.dibujo = terreno.carpetaDibujos + L"\\" + hecho.dibujo;
+    }
     parada.fotos = visita.Fotos();
     parada.ayudas = app.RecogeAyudas();
     return parada;
@@ -69,16 +76,17 @@ void Imprime(const Parada& parada) {
         Escribe(L"    help asked for at context " + Valor(static_cast<int>(ayuda)) + L"\n");
     for (const Visita::Foto& foto : parada.fotos)
         Escribe(L"    " + foto.fichero + L": " + foto.pie + L"\n");
+    if (!parada.hecho.IsEmpty())
+        Escribe(L"    " + parada.hecho + L"\n");
 }
 
 } // namespace
 
 bool Recorre(CEjemploApp& app, Terreno& terreno, const CString& carpeta) {
-    wchar_t completa[MAX_PATH];
-    GetFullPathNameW(carpeta, MAX_PATH, completa, nullptr);
-    const int hecha = SHCreateDirectoryExW(nullptr, completa, nullptr);
-    if (hecha != ERROR_SUCCESS && hecha != ERROR_ALREADY_EXISTS && hecha != ERROR_FILE_EXISTS) {
-        Escribe(carpeta + L": the folder cannot be made\n", true);
+    CString completa;
+    const CString error = HazCarpeta(carpeta, completa);
+    if (!error.IsEmpty()) {
+        Escribe(error + L"\n", true);
         return false;
     }
 

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <shlobj.h>
+
 CString BuscaHaciaArriba(const CString& relativo) {
     wchar_t programa[32768];
     GetModuleFileNameW(nullptr, programa, _countof(programa));
@@ -13,4 +15,16 @@ CString BuscaHaciaArriba(const CString& relativo) {
             return ruta;
     }
     return relativo;
+}
+
+CString HazCarpeta(const CString& carpeta, CString& completa) {
+    wchar_t ruta[MAX_PATH];
+    const DWORD largo =
+        GetFullPathNameW(carpeta.IsEmpty() ? L"." : carpeta.GetString(), MAX_PATH, ruta, nullptr);
+    const bool cabe = largo != 0 && largo < MAX_PATH;
+    const int hecha = cabe ? SHCreateDirectoryExW(nullptr, ruta, nullptr) : ERROR_BAD_PATHNAME;
+    if (hecha != ERROR_SUCCESS && hecha != ERROR_ALREADY_EXISTS && hecha != ERROR_FILE_EXISTS)
+        return carpeta + L": the folder cannot be made";
+    completa = ruta;
+    return {};
 }

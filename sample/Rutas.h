@@ -7,3 +7,10 @@
 /// @param relativo its place in the project: "docs\dialogs\TriangulacionDlg.md".
 /// @return its full path; `relativo` itself when it is in none of them.
 CString BuscaHaciaArriba(const CString& relativo);
+
+/// Makes a folder, and those above it, unless it is there.
+///
+/// @param carpeta  its name; empty is the current folder.
+/// @param completa its full path afterwards.
+/// @return empty; else one line that names it and says that it cannot be made.
+CString HazCarpeta(const CString& carpeta, CString& completa);

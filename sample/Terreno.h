@@ -13,6 +13,7 @@
 #include "cotana/triangulacion/DataLimpiarRelieveRangoZ.h"
 #include "cotana/triangulacion/DataSuavizarTIN.h"
 #include "cotana/triangulacion/DataTriangulacion.h"
+#include "sample/terrain/ElevationGrid.h"
 
 // Where a dialog edits plain variables, they are the host's own record.
 
@@ -46,14 +47,13 @@ struct DatosCurvadoTriangulacion {
     CString cadena;           ///< Code of the contours; they have none yet.
 };
 
-/// What the host owns: the survey, and one record for each conversation.
+/// What the host owns: the survey, the terrain model, and one record for each conversation.
 struct Terreno {
     Cotana::CDigiTab codigos;
     std::vector<Cotana::CInfoClasificacion> clasificaciones;
     CString carpetaNubes; ///< Where the survey's point clouds are.
-    /// Lowest and highest elevation of the terrain model, m.
-    double cotaMinima = 150.25;
-    double cotaMaxima = 398.60;
+    ElevationGrid modelo;
+    CString carpetaDibujos; ///< Where drawings are written.
 
     Cotana::CDataTriangulacion triangulacion;
     DatosTriangulacion2D triangulacion2D;

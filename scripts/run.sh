@@ -2,7 +2,7 @@
 # Builds and runs the sample host. With a display its window opens; without one, or with
 # --tour, every conversation is opened, driven and confirmed, and a page shows them.
 #
-#   scripts/run.sh [--tour] [CODE-TABLE-FILE]
+#   scripts/run.sh [--tour] [--grid ASC-FILE] [CODE-TABLE-FILE]
 set -euo pipefail
 # shellcheck source=setup.sh
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
@@ -32,7 +32,7 @@ build release
 ejemplo=build/release/bin/Ejemplo.exe
 if [ -n "$display" ]; then
   say "Opening the sample host's window"
-  wine "$ejemplo" "$@"
+  wine "$ejemplo" --drawings build/drawings "$@"
 else
   say "Touring the conversations, without a display"
   rm -rf build/tour

@@ -11,12 +11,12 @@ void PreparaCurvado(Terreno& terreno) {
     if (data.m_RangoCota)
         return;
     // A range that the user has not asked for yet is the whole model.
-    data.m_CotaMinima = terreno.cotaMinima;
-    data.m_CotaMaxima = terreno.cotaMaxima;
+    data.m_CotaMinima = terreno.modelo.Lowest();
+    data.m_CotaMaxima = terreno.modelo.Highest();
 }
 
 INT_PTR AbreCurvado(Terreno& terreno, CWnd* padre) {
-    CCurvadoDlg dialogo(terreno.curvado, nullptr, terreno.cotaMinima, terreno.cotaMaxima,
+    CCurvadoDlg dialogo(terreno.curvado, nullptr, terreno.modelo.Lowest(), terreno.modelo.Highest(),
                         SW_SHOWNORMAL, padre);
     return dialogo.DoModal();
 }
@@ -67,7 +67,7 @@ void ConduceCurvado(Visita& visita) {
         dialogo.type(IDC_CURVADO_COTA_MINIMA, L"400");
         dialogo.type(IDC_CURVADO_COTA_MAXIMA, L"300");
         dialogo.press(IDOK);
-        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"300");
+        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"200");
         dialogo.type(IDC_CURVADO_COTA_MAXIMA, L"400");
 
         dialogo.check(IDC_CURVADO_TEXTO_CURVAS);

@@ -29,9 +29,23 @@ TEST(LineaOrdenes, TakesTheTourAndTheCodeTableInEitherOrder) {
     }
 }
 
+TEST(LineaOrdenes, TakesAnElevationGridAndTheFolderOfDrawings) {
+    const LineaOrdenes linea =
+        Lee({L"--grid", L"my hills.asc", L"codes.txt", L"--drawings", L"out"});
+    EXPECT_EQ(linea.ficheroRejilla, L"my hills.asc");
+    EXPECT_EQ(linea.carpetaDibujos, L"out");
+    EXPECT_EQ(linea.ficheroCodigos, L"codes.txt");
+    EXPECT_EQ(linea.carpetaRecorrido, L"");
+    EXPECT_EQ(linea.error, L"");
+}
+
 TEST(LineaOrdenes, SaysWhatIsWrongAndHowItIsUsed) {
-    const CString usage = L"; usage: Ejemplo [--tour FOLDER] [CODE-TABLE-FILE]";
+    const CString usage = L"; usage: Ejemplo [--tour FOLDER] [--grid ASC-FILE] "
+                          L"[--drawings FOLDER] [CODE-TABLE-FILE]";
     EXPECT_EQ(Lee({L"--tour"}).error, L"--tour wants the folder for its results" + usage);
+    EXPECT_EQ(Lee({L"--grid"}).error, L"--grid wants an elevation grid" + usage);
+    EXPECT_EQ(Lee({L"codes.txt", L"--drawings"}).error,
+              L"--drawings wants the folder for drawings" + usage);
     EXPECT_EQ(Lee({L"--help"}).error, L"unknown option --help" + usage);
     EXPECT_EQ(Lee({L"a.txt", L"b.txt"}).error, L"more than one code table: b.txt" + usage);
 }

@@ -69,6 +69,7 @@ TEST_F(CurvadoCodigosDlg, NumbersOfTheCodesAreHiddenAndNothingElse) {
         // Each says which code it stands beside.
         for (std::size_t i = 0; i < Numeros.size(); ++i)
             EXPECT_EQ(dialogo.text(Numeros[i]), std::to_wstring(i + 1));
+        EXPECT_FALSE(dialogo.exists(20042)) << "no code has this one";
         EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
         dialogo.press(IDCANCEL);
     });

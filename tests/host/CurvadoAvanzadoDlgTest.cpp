@@ -7,6 +7,7 @@
 
 #include "checks/Comprobaciones.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -286,6 +287,23 @@ TEST_F(CurvadoAvanzadoDlg, TemplateIsInTheHostsLibraryAndInNoOtherModule) {
     EXPECT_NE(FindResource(cotana, plantilla, RT_DIALOG), nullptr);
     EXPECT_EQ(FindResource(nullptr, plantilla, RT_DIALOG), nullptr) << "of the program";
     EXPECT_EQ(ModuloDeLaPlantilla(), cotana);
+}
+
+TEST_F(CurvadoAvanzadoDlg, TemplateIsInTheChainWhileItsModuleIsLoaded) {
+    const HMODULE cotana = GetModuleHandleW(L"Cotana.dll");
+    // The program cannot let go of the library that it is linked with, but of a copy of it.
+    wchar_t fichero[MAX_PATH];
+    ASSERT_NE(GetModuleFileNameW(cotana, fichero, MAX_PATH), 0U);
+    const auto copia = std::filesystem::temp_directory_path() / L"Cotana copied.dll";
+    std::filesystem::copy_file(fichero, copia, std::filesystem::copy_options::overwrite_existing);
+
+    const HMODULE copiada = LoadLibraryW(copia.c_str());
+    ASSERT_NE(copiada, nullptr);
+    EXPECT_NE(copiada, cotana);
+    EXPECT_EQ(ModuloDeLaPlantilla(), copiada) << "the newest one comes first";
+    EXPECT_TRUE(FreeLibrary(copiada));
+    EXPECT_EQ(ModuloDeLaPlantilla(), cotana);
+    std::filesystem::remove(copia);
 }
 
 TEST_F(CurvadoAvanzadoDlg, OpensUnderTheStateOfAnyModule) {

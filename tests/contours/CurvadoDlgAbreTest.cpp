@@ -176,8 +176,9 @@ TEST_F(CurvadoDlgAbre, OkOfAdvancedWritesItsThreeValuesAndNothingElse) {
     AbreAvanzado(PulsaAvanzado, [this, antes = Campos(data)](kit::Dialog& avanzado) {
         avanzado.type(Valor1, L"0.125");
         avanzado.type(Valor2, L"7");
-        EXPECT_EQ(Campos(data), antes);
         avanzado.press(IDOK);
+        // Its dialog has copies, which are the record's only when it has ended.
+        EXPECT_EQ(Campos(data), antes);
     });
     // The contour options themselves were cancelled.
     EXPECT_EQ(Campos(data), Campos(esperado));
@@ -216,6 +217,18 @@ TEST_F(CurvadoDlgAbre, CancelOfAdvancedWritesNothing) {
         });
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(Campos(data), antes);
+}
+
+TEST_F(CurvadoDlgAbre, CancelOfAdvancedLeavesWhatTheHostWroteMeanwhile) {
+    AbreAvanzado(PulsaAvanzado, [this](kit::Dialog& avanzado) {
+        data.m_ValorAvanzado1 = 3;
+        data.m_ValorAvanzado2 = 4;
+        data.m_AvanzadoPorEscala = TRUE;
+        avanzado.press(IDCANCEL);
+    });
+    EXPECT_EQ(data.m_ValorAvanzado1, 3);
+    EXPECT_EQ(data.m_ValorAvanzado2, 4);
+    EXPECT_EQ(data.m_AvanzadoPorEscala, TRUE);
 }
 
 TEST_F(CurvadoDlgAbre, NothingIsExchangedAroundAdvanced) {
@@ -278,17 +291,28 @@ TEST_F(CurvadoDlgAbre, AdvancedIsModalOverTheContourOptions) {
             dialogo.press(IDCANCEL);
         },
         [&](kit::Dialog& avanzado) {
+            EXPECT_EQ(avanzado.owner(), debajo);
             EXPECT_FALSE(IsWindowEnabled(debajo));
             avanzado.press(IDCANCEL);
         });
 }
 
-// The dialog itself is given no parent, and so falls to what the user had last of the application.
+/// For its life the application has this main window.
+class VentanaPrincipal : public CWnd {
+public:
+    VentanaPrincipal() {
+        EXPECT_TRUE(CreateEx(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 40, 900,
+                             600, nullptr, nullptr));
+        kit::app.m_pMainWnd = this;
+    }
+    ~VentanaPrincipal() override {
+        kit::app.m_pMainWnd = nullptr;
+        DestroyWindow();
+    }
+};
+
 TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheLastActiveWindowOfTheApplication) {
-    CWnd principal;
-    ASSERT_TRUE(principal.CreateEx(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 40,
-                                   900, 600, nullptr, nullptr));
-    kit::app.m_pMainWnd = &principal;
+    const VentanaPrincipal principal;
     HWND debajo = nullptr;
     AbreAvanzado(
         [&](kit::Dialog& dialogo) {
@@ -303,8 +327,28 @@ TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheLastActiveWindowOfTheApplication) {
             avanzado.press(IDCANCEL);
         });
     EXPECT_TRUE(principal.IsWindowEnabled());
-    kit::app.m_pMainWnd = nullptr;
-    principal.DestroyWindow();
+}
+
+// The contour options are not its parent: where they belong to another window, it still belongs to
+// the main one.
+TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheMainWindowWhereTheContourOptionsDoNot) {
+    const VentanaPrincipal principal;
+    CWnd otra;
+    ASSERT_TRUE(otra.CreateEx(0, L"Static", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 80, 60, 900,
+                              600, nullptr, nullptr));
+    auto dlg = Dialogo(&otra);
+    HWND debajo = nullptr;
+    AbreYAbre<Cotana::CCurvadoAvanzadoDlg>(
+        dlg,
+        [&](kit::Dialog& dialogo) {
+            debajo = dialogo.handle();
+            PulsaAvanzado(dialogo);
+        },
+        [&](kit::Dialog& avanzado) {
+            EXPECT_EQ(avanzado.owner(), principal.m_hWnd);
+            avanzado.press(IDCANCEL);
+        });
+    otra.DestroyWindow();
 }
 
 // The codes of the lines.
@@ -329,22 +373,12 @@ TEST_F(CurvadoDlgAbre, OkOfTheCodesWritesTheFiveAndNothingElse) {
         const wchar_t* const tecleados[] = {L"one", L"", L" three ", L"four", L"five"};
         for (int i = 0; i < 5; ++i)
             codigos.type(CodigoCurvas[i], tecleados[i]);
-        EXPECT_EQ(Campos(data), antes);
         codigos.press(IDOK);
+        // Its dialog has copies, which are the record's only when it has ended.
+        EXPECT_EQ(Campos(data), antes);
     });
     // The contour options themselves were cancelled.
     EXPECT_EQ(Campos(data), Campos(esperado));
-}
-
-TEST_F(CurvadoDlgAbre, CodesAreTheRecordsOnlyWhenTheirDialogHasEnded) {
-    // A host's class may exchange in the middle; the copies take it, the record does not.
-    AbreCodigos(PulsaCodigos, [this](kit::Dialog& codigos) {
-        codigos.type(CodigoCurvas[0], L"typed");
-        EXPECT_TRUE(kit::object<CCurvadoCodigosDlg>(codigos).UpdateData(TRUE));
-        EXPECT_EQ(data.m_CodigoCurvas1, L"C1");
-        codigos.press(IDCANCEL);
-    });
-    EXPECT_EQ(data.m_CodigoCurvas1, L"C1");
 }
 
 TEST_F(CurvadoDlgAbre, CancelOfTheCodesWritesNothing) {
@@ -355,6 +389,19 @@ TEST_F(CurvadoDlgAbre, CancelOfTheCodesWritesNothing) {
         codigos.press(IDCANCEL);
     });
     EXPECT_EQ(Campos(data), antes);
+}
+
+TEST_F(CurvadoDlgAbre, CancelOfTheCodesLeavesWhatTheHostWroteMeanwhile) {
+    const auto escritos = {&CDataCurvado::m_CodigoCurvas1, &CDataCurvado::m_CodigoCurvas2,
+                           &CDataCurvado::m_CodigoCurvas3, &CDataCurvado::m_CodigoCurvas4,
+                           &CDataCurvado::m_CodigoCurvas5};
+    AbreCodigos(PulsaCodigos, [&](kit::Dialog& codigos) {
+        for (const auto campo : escritos)
+            data.*campo = L"host";
+        codigos.press(IDCANCEL);
+    });
+    for (const auto campo : escritos)
+        EXPECT_EQ(data.*campo, L"host");
 }
 
 TEST_F(CurvadoDlgAbre, NothingIsExchangedAroundTheCodes) {

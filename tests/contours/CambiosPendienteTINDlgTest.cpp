@@ -112,14 +112,18 @@ TEST_F(CambiosPendienteTINDlg, ValueIsRoundedTo15DigitsAtOpening) {
 }
 
 TEST_F(CambiosPendienteTINDlg, FlagsOutsideTheirRangeAreReadBackAtOpening) {
-    data.m_GenerarDibujo1 = 7;
-    data.m_GenerarDibujo2 = -1;
-    Abre([this](kit::Dialog& dialogo) {
-        EXPECT_EQ(data.m_GenerarDibujo1, 0);
-        EXPECT_EQ(data.m_GenerarDibujo2, 0);
-        EXPECT_FALSE(dialogo.enabled(IDOK));
-        dialogo.press(IDCANCEL);
-    });
+    for (const int antes : {2, -1, 7}) {
+        data.m_GenerarDibujo1 = 0;
+        data.m_GenerarDibujo2 = antes;
+        Abre([&](kit::Dialog& dialogo) {
+            // What a box of two states makes of a third one is the system's.
+            EXPECT_EQ(data.m_GenerarDibujo2,
+                      SendMessageW(dialogo.control(Dibujo2), BM_GETCHECK, 0, 0));
+            EXPECT_EQ(data.m_GenerarDibujo2 != 0, antes == 2);
+            EXPECT_EQ(dialogo.enabled(IDOK), antes == 2);
+            dialogo.press(IDCANCEL);
+        });
+    }
 }
 
 // The two check boxes.
@@ -304,6 +308,20 @@ TEST_F(CambiosPendienteTINDlg, OkCommandClosesItWithNeitherDrawing) {
     EXPECT_EQ(data.m_GenerarDibujo1, 0);
     EXPECT_EQ(data.m_GenerarDibujo2, 0);
     EXPECT_EQ(data.m_CadenaCambio, L"Typed");
+}
+
+TEST_F(CambiosPendienteTINDlg, UserConfirmsNeitherDrawingByABadNumberThatHeMends) {
+    const auto resultado = Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [](kit::Dialog& dialogo) {
+        dialogo.type(Entero, L"");
+        dialogo.click(Dibujo1);
+        dialogo.click(Dibujo2);
+        dialogo.type(Entero, L"3");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_EnteroCambio, 3);
+    EXPECT_EQ(data.m_GenerarDibujo1, 0);
+    EXPECT_EQ(data.m_GenerarDibujo2, 0);
 }
 
 TEST_F(CambiosPendienteTINDlg, BadNumberIsRefusedOnceByOk) {

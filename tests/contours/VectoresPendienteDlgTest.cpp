@@ -163,11 +163,14 @@ TEST_F(VectoresPendienteDlg, NumbersAreRoundedTo15DigitsAtOpening) {
 }
 
 TEST_F(VectoresPendienteDlg, FlagOutsideItsRangeIsReadBackAtOpening) {
-    for (const int antes : {7, -1}) {
+    for (const int antes : {2, -1, 7}) {
         data.m_Limite = antes;
-        Abre([this](kit::Dialog& dialogo) {
-            EXPECT_EQ(data.m_Limite, 0);
-            EXPECT_FALSE(dialogo.enabled(FicheroLimite));
+        Abre([&](kit::Dialog& dialogo) {
+            // What a box of two states makes of a third one is the system's.
+            EXPECT_EQ(data.m_Limite, SendMessageW(dialogo.control(Limite), BM_GETCHECK, 0, 0));
+            EXPECT_EQ(data.m_Limite != 0, antes == 2);
+            EXPECT_EQ(dialogo.enabled(FicheroLimite), antes == 2);
+            EXPECT_EQ(dialogo.enabled(Buscar), antes == 2);
             dialogo.press(IDCANCEL);
         });
     }
@@ -546,6 +549,23 @@ TEST_F(VectoresPendienteDlg, CancelKeepsWhatTheClickExchanged) {
     EXPECT_EQ(data.m_ValorVector1, -30);
     EXPECT_EQ(data.m_Cadena1, L"");
     EXPECT_EQ(data.m_Limite, 0);
+}
+
+TEST_F(VectoresPendienteDlg, CancelKeepsWhatARefusedOkExchanged) {
+    EXPECT_EQ(Abre({IDS_VALOR_TEXTO_NO_POSITIVO},
+                   [](kit::Dialog& dialogo) {
+                       dialogo.type(Valor1, L"30");
+                       dialogo.type(Cadena2, L"Typed");
+                       dialogo.type(TextoValor1, L"-2");
+                       dialogo.type(FicheroLimite, L"typed.dat");
+                       dialogo.press(IDOK);
+                       dialogo.press(IDCANCEL);
+                   }),
+              IDCANCEL);
+    EXPECT_EQ(data.m_ValorVector1, 30);
+    EXPECT_EQ(data.m_Cadena2, L"Typed");
+    EXPECT_EQ(data.m_TextoValor1, -2);
+    EXPECT_EQ(data.m_FicheroLimite, L"typed.dat");
 }
 
 // By keyboard alone.

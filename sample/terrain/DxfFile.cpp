@@ -12,7 +12,7 @@ namespace {
 constexpr size_t LongestLayerName = 31;
 
 /// Colours by their number in CAD programs, seen on black as on white.
-enum Colour { Brown = 34, Orange = 30, LightBlue = 151, Blue = 150, BlackOrWhite = 7 };
+enum Colour { Brown = 34, Orange = 30, DarkBlue = 152, Blue = 150, BlackOrWhite = 7 };
 
 struct Layer {
     std::string name;
@@ -29,7 +29,7 @@ std::vector<Layer> LayersOf(const ContourLayers& layers) {
     };
     add(layers.contours, Brown);
     add(layers.masters, Orange);
-    add(layers.depressions, LightBlue);
+    add(layers.depressions, DarkBlue);
     add(layers.masterDepressions, Blue);
     add(layers.labels, BlackOrWhite);
     return all;

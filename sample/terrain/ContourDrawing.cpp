@@ -59,9 +59,9 @@ public:
     /// Whether no other label is near.
     bool IsFree(const MapPoint& place) const {
         const auto [column, row] = Square(place);
-        for (double x = column - 1; x <= column + 1; ++x) {
-            const auto from = m_Places.lower_bound({x, row - 1});
-            const auto to = m_Places.upper_bound({x, row + 1});
+        for (const double offset : {-1.0, 0.0, 1.0}) {
+            const auto from = m_Places.lower_bound({column + offset, row - 1});
+            const auto to = m_Places.upper_bound({column + offset, row + 1});
             for (auto one = from; one != to; ++one) {
                 if (Distance(one->second, place) < m_Size)
                     return false;
@@ -135,14 +135,23 @@ CString LabelContours(const ContourLabelStyle& style, ContourDrawing& drawing) {
     if (!(height > 0) || !(spacing > 0))
         return L"the height and the spacing of labels have to be above 0";
 
-    const int decimals = std::clamp(style.decimals, 0, 6);
+    const auto textOf = [&](const Contour& contour) {
+        return Decimal(contour.level.elevation, std::clamp(style.decimals, 0, 6));
+    };
+    const auto widthOf = [&](const std::string& text) {
+        return FigureWidth * height * static_cast<double>(text.size());
+    };
+    double free = 4 * height;
+    for (const Contour& contour : drawing.contours)
+        free = std::max(free, widthOf(textOf(contour)) + height);
+
     std::vector<ContourLabel> labels;
-    TakenPlaces taken(4 * height);
+    TakenPlaces taken(free);
     for (const Contour& contour : drawing.contours) {
         if (style.mastersOnly && !contour.level.master)
             continue;
-        const std::string text = Decimal(contour.level.elevation, decimals);
-        const double width = FigureWidth * height * static_cast<double>(text.size());
+        const std::string text = textOf(contour);
+        const double width = widthOf(text);
         const Path path(contour);
         if (path.Length() < 2 * width)
             continue;

@@ -50,11 +50,13 @@ CString FindContourLevels(const ElevationRange& span, const ContourOptions& opti
 /// Traces the contours of a terrain.
 ///
 /// Within a cell, which here is the square between four nodes, a contour is straight; it crosses
-/// the cell's sides where the elevation between their ends, taken as linear, is the level's. A node
-/// at the very level counts as higher. So flat ground at a level lies within its contour, and a
-/// contour that would enclose nothing but points of its level is left out. Where the contours of a
-/// saddle could turn either way, the mean of its four corners decides on which side its middle is.
-/// In a cell with a missing corner there is no contour: lines end at it.
+/// the cell's sides where the elevation between their ends, taken as linear, is the level's. Where
+/// the contours of a saddle could turn either way, the mean of its four corners decides whether its
+/// middle is higher. In a cell with a missing corner there is no contour: lines end at it.
+///
+/// A node at the very level counts as higher. So flat ground at a level lies within its contour,
+/// and at the lowest elevation there is none; a ring that encloses nothing but a node or a ridge of
+/// its level is left out, while a ridge that crosses the terrain has a line on either side.
 ///
 /// @param contours hold them afterwards, the lowest level first; untouched on an error.
 /// @return empty; else one line: what FindContourLevels says, or that the contours would have

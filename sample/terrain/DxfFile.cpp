@@ -10,9 +10,10 @@
 namespace {
 
 constexpr size_t LongestLayerName = 31;
+constexpr double WindowShape = 1.5; ///< Width to height of a CAD program's window, as a rule.
 
 /// Colours by their number in CAD programs, seen on black as on white.
-enum Colour { Brown = 34, Orange = 30, LightBlue = 151, Blue = 150, BlackOrWhite = 7 };
+enum Colour { Brown = 34, Orange = 30, DarkBlue = 152, Blue = 150, BlackOrWhite = 7 };
 
 struct Layer {
     std::string name;
@@ -29,7 +30,7 @@ std::vector<Layer> LayersOf(const ContourLayers& layers) {
     };
     add(layers.contours, Brown);
     add(layers.masters, Orange);
-    add(layers.depressions, LightBlue);
+    add(layers.depressions, DarkBlue);
     add(layers.masterDepressions, Blue);
     add(layers.labels, BlackOrWhite);
     return all;
@@ -96,8 +97,31 @@ private:
         Group(0, "ENDSEC");
     }
 
+    /// What is seen when the file is opened: all of the terrain.
+    void View() {
+        const MapPoint &low = m_Drawing.southWest, &high = m_Drawing.northEast;
+        const double width = high.x - low.x, height = high.y - low.y;
+        Table("VPORT", 1);
+        Group(0, "VPORT");
+        Group(2, "*ACTIVE");
+        Group(70, 0);
+        Group(10, "0.0"); // the whole window
+        Group(20, "0.0");
+        Group(11, "1.0");
+        Group(21, "1.0");
+        Length(12, low.x + width / 2); // the middle of the view
+        Length(22, low.y + height / 2);
+        Group(16, "0.0"); // from above
+        Group(26, "0.0");
+        Group(36, "1.0");
+        Length(40, 1.1 * std::max({height, width / WindowShape, 1.0}));
+        Group(41, Decimal(WindowShape, 1));
+        Group(0, "ENDTAB");
+    }
+
     void Tables() {
         Section("TABLES");
+        View();
         Table("LTYPE", 1);
         Group(0, "LTYPE");
         Group(2, "CONTINUOUS");

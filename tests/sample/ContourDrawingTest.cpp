@@ -118,6 +118,25 @@ TEST(ContourDrawing, LabelsKeepAwayFromEachOther) {
     }
 }
 
+TEST(ContourDrawing, LongLabelsKeepTheirLengthAway) {
+    // Ten figures, 2 m high, are 16 m wide.
+    ContourDrawing drawing = DrawingOf({{0, 0}, {200, 0}});
+    drawing.contours.push_back(drawing.contours[0]);
+    const auto labels = Labels(drawing, {2, 100, 6, true});
+    EXPECT_EQ(labels.size(), 4u);
+    for (size_t one = 0; one < labels.size(); ++one) {
+        for (size_t other = 0; other < one; ++other)
+            EXPECT_GE(std::abs(labels[one].middle.x - labels[other].middle.x), 18);
+    }
+}
+
+TEST(ContourDrawing, LabelsOfAnySizeComeToAnEnd) {
+    ContourDrawing drawing = DrawingOf({{437200, 4486300}, {438200, 4486300}});
+    for (const double height : {1e-300, 1e-12, 1e300})
+        Labels(drawing, {height, 1e300, 0, true});
+    EXPECT_TRUE(Labels(drawing, {1e300, 1e-300, 0, true}).empty());
+}
+
 TEST(ContourDrawing, ARingIsLabelledAllRound) {
     std::vector<MapPoint> square = {{0, 0}, {100, 0}, {100, 100}, {0, 100}};
     EXPECT_EQ(Labels(DrawingOf(square, true), {2, 100, 0, true}).size(), 4u);

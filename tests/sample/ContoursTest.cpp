@@ -367,6 +367,17 @@ TEST(Contours, WhatEnclosesNothingIsLeftOut) {
     EXPECT_TRUE(At(Surface(4, 4, 1, {0, 0}, [](double x, double) { return 10 + x; }), 10).empty());
 }
 
+TEST(Contours, ARidgeAtTheLevelAcrossTheTerrainHasALineOnEitherSide) {
+    const ElevationGrid roof =
+        Surface(5, 3, 1, {0, 0}, [](double x, double) { return 10 - std::abs(x - 2); });
+    const auto lines = At(roof, 10);
+    ASSERT_EQ(lines.size(), 2u);
+    Points southwards = {{2, 2}, {2, 1}, {2, 0}};
+    EXPECT_NE(lines[0].points == southwards, lines[1].points == southwards);
+    std::ranges::reverse(southwards);
+    EXPECT_NE(lines[0].points == southwards, lines[1].points == southwards);
+}
+
 TEST(Contours, ATerrainWithoutCellsHasNone) {
     EXPECT_TRUE(At(ElevationGrid(), 5).empty());
     EXPECT_TRUE(At(ElevationGrid(1, 1, {0, 0}, {1, 5, 9}), 5).empty());

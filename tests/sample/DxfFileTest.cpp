@@ -110,6 +110,21 @@ TEST(DxfFile, IsOfReleaseTwelveWithItsSectionsInOrder) {
     EXPECT_EQ(items.front().groups.find(1)->second, "AC1009");
 }
 
+TEST(DxfFile, OpensWithAViewOfAllTheTerrain) {
+    const ContourDrawing drawing = SmallDrawing();
+    for (const Item& item : Written(drawing)) {
+        if (item.name != "VPORT")
+            continue;
+        EXPECT_EQ(item.Text(2), "*ACTIVE");
+        EXPECT_EQ(item.Number(12), 437250);
+        EXPECT_EQ(item.Number(22), 4486340);
+        EXPECT_GT(item.Number(40), 80);
+        EXPECT_GT(item.Number(40) * item.Number(41), 100);
+        return;
+    }
+    FAIL() << "there is no view";
+}
+
 TEST(DxfFile, PolylinesHaveTheirElevationAndLayer) {
     const ContourDrawing drawing = SmallDrawing();
     const auto polylines = Polylines(Written(drawing));

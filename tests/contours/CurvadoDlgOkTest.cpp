@@ -67,10 +67,8 @@ TEST_F(CurvadoDlgOk, LeavesEverythingInTheRecord) {
         dialogo.type(NivelSuavizado, L"9");
         dialogo.type(CurvasARespetar1, L"respect");
         dialogo.type(CurvasARespetar2, L"");
-        for (const int casilla : {TextoCurvas, OpcionTexto, RangoCota, Limite, OpcionSuavizado,
-                                  Opcion1, RespetarCurvas})
-            if (casilla != TextoCurvas && casilla != Limite)
-                dialogo.click(casilla);
+        for (const int casilla : {OpcionTexto, RangoCota, OpcionSuavizado, Opcion1, RespetarCurvas})
+            dialogo.click(casilla);
         dialogo.choose(TipoSuavizado, 1);
         dialogo.press(IDOK);
     });

@@ -187,6 +187,17 @@ TEST_F(CambiosPendienteTINDlg, TypingLeavesOkAsItIs) {
     });
 }
 
+TEST_F(CambiosPendienteTINDlg, FlagsCountAlsoWhereTheHostRefusesTheExchange) {
+    data.m_GenerarDibujo2 = FALSE;
+    CDesconfiado<CCambiosPendienteTINDlg> dlg(data);
+    dlg.rechazado = 2; // the first one opens it
+    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+        dialogo.click(Dibujo1);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
 // The numbers and the text are exchanged before the flags: the decimals, the code, the value.
 
 TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveEverythingUnreadByTheClick) {

@@ -232,6 +232,17 @@ TEST_F(VectoresPendienteDlg, BadNumberLeavesTheFlagUnreadByTheClick) {
     }
 }
 
+TEST_F(VectoresPendienteDlg, FlagCountsAlsoWhereTheHostRefusesTheExchange) {
+    auto dlg = Dialogo<CDesconfiado<CVectoresPendienteDlg>>();
+    dlg.rechazado = 2; // the first one opens it
+    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+        dialogo.click(Limite);
+        EXPECT_FALSE(dialogo.enabled(FicheroLimite));
+        EXPECT_FALSE(dialogo.enabled(Buscar));
+        dialogo.press(IDCANCEL);
+    });
+}
+
 // Browsing for the boundary.
 
 TEST_F(VectoresPendienteDlg, AsksTheHostForAFileThatExists) {

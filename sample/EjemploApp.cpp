@@ -1,5 +1,6 @@
 #include "sample/EjemploApp.h"
 
+#include <commdlg.h>
 #include <shellapi.h>
 
 #include <utility>
@@ -64,6 +65,7 @@ BOOL CEjemploApp::InitInstance() {
 CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
     const CString carpeta = BuscaHaciaArriba(L"sample\\data");
     m_Terreno.carpetaNubes = carpeta + L"\\clouds";
+    m_Terreno.carpetaLimites = carpeta + L"\\boundaries";
     CString error = ReadCodeTableFile(
         linea.ficheroCodigos.IsEmpty() ? carpeta + L"\\survey-codes.txt" : linea.ficheroCodigos,
         m_Terreno.codigos);
@@ -106,8 +108,10 @@ void CEjemploApp::HtmlHelp(DWORD_PTR dwData, UINT) {
 
 BOOL CEjemploApp::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
                               CDocTemplate** plantilla, int clase, void* reservado) {
-    // The system's dialog shows the current folder first.
-    SetCurrentDirectoryW(m_Terreno.carpetaNubes);
+    // Point clouds are asked for several at a time, boundaries one by one. The system's dialog
+    // shows the current folder first.
+    const bool nubes = opciones & OFN_ALLOWMULTISELECT;
+    SetCurrentDirectoryW(nubes ? m_Terreno.carpetaNubes : m_Terreno.carpetaLimites);
     return CAplicacion::PideFichero(nombre, titulo, opciones, abrir, plantilla, clase, reservado);
 }
 

@@ -17,7 +17,7 @@ public:
     /// Opens the dialog's page in the browser; on a tour, notes the request only.
     void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override;
 
-    /// The system's dialog, which opens in the folder of the point clouds.
+    /// The system's dialog, which opens in the folder of the files that are asked for.
     BOOL PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
                      CDocTemplate** plantilla, int clase, void* reservado) override;
 

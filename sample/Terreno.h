@@ -51,7 +51,8 @@ struct DatosCurvadoTriangulacion {
 struct Terreno {
     Cotana::CDigiTab codigos;
     std::vector<Cotana::CInfoClasificacion> clasificaciones;
-    CString carpetaNubes; ///< Where the survey's point clouds are.
+    CString carpetaNubes;   ///< Where the survey's point clouds are.
+    CString carpetaLimites; ///< Where the boundaries are.
     ElevationGrid modelo;
     CString carpetaDibujos; ///< Where drawings are written.
 

@@ -96,5 +96,5 @@ void ConduceCurvado(Visita& visita) {
     visita.Guion().expectMessage().inspect([&visita](kit::MessageDialog& aviso) {
         visita.Fotografia(aviso.handle(), L"The lowest elevation was above the highest.");
     });
-    RespondePregunta(visita, {LR"(..\boundaries\hills.dxf)"});
+    RespondePregunta(visita, {L"hills.dxf"});
 }

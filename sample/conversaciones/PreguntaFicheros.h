@@ -9,5 +9,5 @@
 /// The full path of one of the sample's point clouds.
 std::wstring NubeDePuntos(const std::wstring& nombre);
 
-/// The next prompt is confirmed with these names, as seen from the folder that it shows.
+/// The next prompt is confirmed with these names of the folder that it shows.
 void RespondePregunta(Visita& visita, std::initializer_list<const wchar_t*> nombres);

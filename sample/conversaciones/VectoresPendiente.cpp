@@ -40,5 +40,5 @@ void ConduceVectoresPendiente(Visita& visita) {
     visita.Guion().expectMessage().inspect([&visita](kit::MessageDialog& aviso) {
         visita.Fotografia(aviso.handle(), L"The boundary had no file.");
     });
-    RespondePregunta(visita, {LR"(..\boundaries\hills.dxf)"});
+    RespondePregunta(visita, {L"hills.dxf"});
 }

@@ -45,6 +45,10 @@ BOOL CAplicacion::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL
     CFileDialog dialogo(abrir, nullptr, nullptr, opciones, TodosLosFicheros, nullptr, 0,
                         estiloNuevo);
 
+    // Else Windows takes the folder in which the program's prompt ended last, in an earlier run
+    // too.
+    dialogo.m_ofn.lpstrInitialDir = L".";
+
     CString textoTitulo;
     if (textoTitulo.LoadString(titulo))
         dialogo.m_ofn.lpstrTitle = textoTitulo;

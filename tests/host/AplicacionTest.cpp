@@ -101,6 +101,19 @@ TEST_F(AplicacionDelHost, QuotesNoNameButThoseWithABlankOrAByteOrderMark) {
     }
 }
 
+TEST_F(AplicacionDelHost, OpensInTheCurrentFolderWhereverItEndedBefore) {
+    const std::filesystem::path otra = carpeta / L"other";
+    std::filesystem::create_directories(otra);
+    std::ofstream(otra / L"four.dat") << "data";
+    CString nombre;
+    EXPECT_TRUE(Pide(nombre, Abrir, TRUE, (otra / L"four.dat").wstring(), IDOK));
+
+    std::filesystem::current_path(carpeta);
+    nombre.Empty();
+    EXPECT_TRUE(Pide(nombre, Abrir, TRUE, L"one.dat", IDOK));
+    EXPECT_EQ(nombre, Ruta(L"one.dat").c_str());
+}
+
 TEST_F(AplicacionDelHost, HasNoDocumentTemplate) {
     EXPECT_EQ(kit::app.CAplicacion::PlantillaActual(), nullptr);
 }

@@ -45,8 +45,7 @@ BOOL CAplicacion::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL
     CFileDialog dialogo(abrir, nullptr, nullptr, opciones, TodosLosFicheros, nullptr, 0,
                         estiloNuevo);
 
-    // Else Windows takes the folder in which the program's prompt ended last, in an earlier run
-    // too.
+    // Else Windows shows the folder where the program's prompt ended last, even in another run.
     dialogo.m_ofn.lpstrInitialDir = L".";
 
     CString textoTitulo;

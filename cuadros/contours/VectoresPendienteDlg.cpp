@@ -19,7 +19,9 @@ CVectoresPendienteDlg::~CVectoresPendienteDlg() = default;
 
 void CVectoresPendienteDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
+    // The box comes first, so that a click on it counts whatever the numbers are.
     // clang-format off
+    DDX_Check(pDX, IDC_VECTORES_PENDIENTE_LIMITE,         m_pData->m_Limite);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_1,        m_pData->m_ValorVector1);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_2,        m_pData->m_ValorVector2);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_1,       m_pData->m_Cadena1);
@@ -27,7 +29,6 @@ void CVectoresPendienteDlg::DoDataExchange(CDataExchange* pDX) {
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_VALOR_1,  m_pData->m_TextoValor1);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_ENTERO,   m_pData->m_TextoEntero);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_FICHERO_LIMITE, m_pData->m_FicheroLimite);
-    DDX_Check(pDX, IDC_VECTORES_PENDIENTE_LIMITE,         m_pData->m_Limite);
     // clang-format on
 }
 

@@ -198,10 +198,12 @@ TEST_F(CambiosPendienteTINDlg, FlagsCountAlsoWhereTheHostRefusesTheExchange) {
     });
 }
 
-// The numbers and the text are exchanged before the flags: the decimals, the code, the value.
+// The boxes are exchanged first: OK follows them whatever the numbers are.
 
-TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveEverythingUnreadByTheClick) {
+TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveOnlyTheEditsUnreadByTheClick) {
     for (const wchar_t* const malo : {L"", L"1.5", L"some", L"2147483648"}) {
+        data.m_GenerarDibujo1 = TRUE;
+        data.m_GenerarDibujo2 = TRUE;
         const auto resultado =
             Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [&](kit::Dialog& dialogo) {
                 dialogo.type(Entero, malo);
@@ -210,46 +212,33 @@ TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveEverythingUnreadByTheClick) {
                 dialogo.click(Dibujo1);
                 EXPECT_EQ(dialogo.focus(), Entero);
                 EXPECT_EQ(dialogo.text(Entero), malo);
-                dialogo.click(Dibujo2);
-                // Neither box is ticked, but OK is enabled by the flags of
-                // before.
-                EXPECT_FALSE(dialogo.checked(Dibujo1));
-                EXPECT_FALSE(dialogo.checked(Dibujo2));
                 EXPECT_TRUE(dialogo.enabled(IDOK));
+                dialogo.click(Dibujo2);
+                EXPECT_FALSE(dialogo.enabled(IDOK));
                 dialogo.press(IDCANCEL);
             });
         EXPECT_EQ(resultado, IDCANCEL);
         EXPECT_EQ(data.m_EnteroCambio, 2);
         EXPECT_EQ(data.m_CadenaCambio, L"SC");
         EXPECT_EQ(data.m_ValorCambio, 12.5);
-        EXPECT_EQ(data.m_GenerarDibujo1, 1);
-        EXPECT_EQ(data.m_GenerarDibujo2, 1);
+        EXPECT_EQ(data.m_GenerarDibujo1, 0);
+        EXPECT_EQ(data.m_GenerarDibujo2, 0);
     }
 }
 
-TEST_F(CambiosPendienteTINDlg, BadValueLeavesTheFlagsUnreadByTheClick) {
+TEST_F(CambiosPendienteTINDlg, TickedBoxEnablesOkWhateverTheValueIs) {
     data.m_GenerarDibujo1 = FALSE;
     data.m_GenerarDibujo2 = FALSE;
     const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
-        dialogo.type(Entero, L"3");
-        dialogo.type(Cadena, L"Typed");
         dialogo.type(Valor, L"steep");
-        dialogo.click(Dibujo1);
-        EXPECT_EQ(dialogo.focus(), Valor);
-        EXPECT_TRUE(dialogo.checked(Dibujo1));
-        EXPECT_FALSE(dialogo.enabled(IDOK));
-        // The next click reads what is there then.
-        dialogo.type(Valor, L"5");
-        EXPECT_FALSE(dialogo.enabled(IDOK));
         dialogo.click(Dibujo2);
+        EXPECT_EQ(dialogo.focus(), Valor);
         EXPECT_TRUE(dialogo.enabled(IDOK));
         dialogo.press(IDCANCEL);
     });
     EXPECT_EQ(resultado, IDCANCEL);
-    EXPECT_EQ(data.m_EnteroCambio, 3);
-    EXPECT_EQ(data.m_CadenaCambio, L"Typed");
-    EXPECT_EQ(data.m_ValorCambio, 5);
-    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_ValorCambio, 12.5);
+    EXPECT_EQ(data.m_GenerarDibujo1, 0);
     EXPECT_EQ(data.m_GenerarDibujo2, 1);
 }
 
@@ -266,7 +255,7 @@ TEST_F(CambiosPendienteTINDlg, WhatComesBeforeABadValueIsInTheRecord) {
     EXPECT_EQ(data.m_EnteroCambio, 3);
     EXPECT_EQ(data.m_CadenaCambio, L"Typed");
     EXPECT_EQ(data.m_ValorCambio, 12.5);
-    EXPECT_EQ(data.m_GenerarDibujo1, 1);
+    EXPECT_EQ(data.m_GenerarDibujo1, 0);
 }
 
 // OK.
@@ -300,10 +289,10 @@ TEST_F(CambiosPendienteTINDlg, OkChecksNoRangeAndNoText) {
     EXPECT_EQ(data.m_ValorCambio, -1e300);
 }
 
-TEST_F(CambiosPendienteTINDlg, OkReadsTheRecordInItsOrder) {
+TEST_F(CambiosPendienteTINDlg, OkReadsTheBoxesAndThenTheRecordInItsOrder) {
     Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(LeidosPorOk(dialogo, {Dibujo2, Dibujo1, Valor, Cadena, Entero}),
-                  (std::vector<int>{Entero, Cadena, Valor, Dibujo1, Dibujo2}));
+        EXPECT_EQ(LeidosPorOk(dialogo, {Valor, Cadena, Entero, Dibujo2, Dibujo1}),
+                  (std::vector<int>{Dibujo1, Dibujo2, Entero, Cadena, Valor}));
     });
 }
 
@@ -321,18 +310,17 @@ TEST_F(CambiosPendienteTINDlg, OkCommandClosesItWithNeitherDrawing) {
     EXPECT_EQ(data.m_CadenaCambio, L"Typed");
 }
 
-TEST_F(CambiosPendienteTINDlg, UserConfirmsNeitherDrawingByABadNumberThatHeMends) {
+TEST_F(CambiosPendienteTINDlg, NeitherDrawingIsNotConfirmedByMendingABadNumber) {
     const auto resultado = Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [](kit::Dialog& dialogo) {
         dialogo.type(Entero, L"");
         dialogo.click(Dibujo1);
         dialogo.click(Dibujo2);
         dialogo.type(Entero, L"3");
-        dialogo.press(IDOK);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
     });
-    EXPECT_EQ(resultado, IDOK);
-    EXPECT_EQ(data.m_EnteroCambio, 3);
-    EXPECT_EQ(data.m_GenerarDibujo1, 0);
-    EXPECT_EQ(data.m_GenerarDibujo2, 0);
+    EXPECT_EQ(resultado, IDCANCEL);
+    EXPECT_EQ(data.m_EnteroCambio, 2);
 }
 
 TEST_F(CambiosPendienteTINDlg, BadNumberIsRefusedOnceByOk) {

@@ -207,8 +207,8 @@ TEST_F(VectoresPendienteDlg, ClickReadsAllThatWasTyped) {
     });
 }
 
-TEST_F(VectoresPendienteDlg, BadNumberLeavesTheFlagUnreadByTheClick) {
-    // Which number it is: the flag is exchanged after all of them.
+TEST_F(VectoresPendienteDlg, ClickCountsWhateverTheNumbersAre) {
+    // The box is exchanged before all of them.
     const struct {
         int control;
         UINT aviso;
@@ -221,14 +221,15 @@ TEST_F(VectoresPendienteDlg, BadNumberLeavesTheFlagUnreadByTheClick) {
             dialogo.type(caso.control, L"none");
             dialogo.click(Limite);
             EXPECT_FALSE(dialogo.checked(Limite));
-            EXPECT_EQ(data.m_Limite, 1);
-            EXPECT_TRUE(dialogo.enabled(FicheroLimite));
-            EXPECT_TRUE(dialogo.enabled(Buscar));
+            EXPECT_EQ(data.m_Limite, 0);
+            EXPECT_FALSE(dialogo.enabled(FicheroLimite));
+            EXPECT_FALSE(dialogo.enabled(Buscar));
             EXPECT_EQ(dialogo.focus(), caso.control);
             EXPECT_EQ(dialogo.text(caso.control), L"none");
             dialogo.press(IDCANCEL);
         });
         EXPECT_EQ(resultado, IDCANCEL);
+        data.m_Limite = TRUE;
     }
 }
 
@@ -471,9 +472,9 @@ TEST_F(VectoresPendienteDlg, RefusalStaysOpenAndMovesNoFocus) {
          });
 }
 
-TEST_F(VectoresPendienteDlg, OkReadsTheRecordInItsOrder) {
-    const std::vector<int> orden = {Valor1,      Valor2,      Cadena1,       Cadena2,
-                                    TextoValor1, TextoEntero, FicheroLimite, Limite};
+TEST_F(VectoresPendienteDlg, OkReadsTheBoxAndThenTheRecordInItsOrder) {
+    const std::vector<int> orden = {Limite,  Valor1,      Valor2,      Cadena1,
+                                    Cadena2, TextoValor1, TextoEntero, FicheroLimite};
     std::vector<int> dosVeces = orden;
     dosVeces.insert(dosVeces.end(), orden.begin(), orden.end());
     Abre([&](kit::Dialog& dialogo) {

@@ -747,6 +747,29 @@ TEST_F(CurvadoDlg, HostSeesEachExchangeAsItIsDocumented) {
     kit::app.takeHelpRequests();
 }
 
+TEST_F(CurvadoDlg, EachHandlerAnswersItsOwnNotification) {
+    auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
+    Conduce(contador, [&](kit::Dialog& dialogo) {
+        const auto tras = [&](int control, int aviso) {
+            contador.Intercambios();
+            SendMessageW(dialogo.handle(), WM_COMMAND, MAKEWPARAM(control, aviso),
+                         reinterpret_cast<LPARAM>(dialogo.control(control)));
+            return contador.Intercambios();
+        };
+        EXPECT_EQ(tras(Escala, EN_CHANGE), "S");
+        EXPECT_EQ(tras(Escala, EN_UPDATE), "");
+        EXPECT_EQ(tras(Escala, EN_KILLFOCUS), "");
+        EXPECT_EQ(tras(TipoSuavizado, CBN_SELCHANGE), "SM");
+        EXPECT_EQ(tras(TipoSuavizado, CBN_SELENDOK), "");
+        EXPECT_EQ(tras(TipoSuavizado, CBN_CLOSEUP), "");
+        for (const Casilla& casilla : Casillas) {
+            EXPECT_EQ(tras(casilla.control, BN_CLICKED), "S") << casilla.control;
+            EXPECT_EQ(tras(casilla.control, BN_DOUBLECLICKED), "") << casilla.control;
+        }
+        dialogo.press(IDCANCEL);
+    });
+}
+
 TEST_F(CurvadoDlg, HostCallsTheHandlersItself) {
     data.m_AvanzadoPorEscala = TRUE;
     auto dlg = Dialogo();

@@ -15,12 +15,12 @@ CCambiosPendienteTINDlg::~CCambiosPendienteTINDlg() = default;
 
 void CCambiosPendienteTINDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    // The boxes come first, so that OK follows them whatever the numbers are.
+    // What is never refused comes first: OK follows the boxes whatever the numbers are.
     // clang-format off
     DDX_Check(pDX, IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_1, m_pData->m_GenerarDibujo1);
     DDX_Check(pDX, IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_2, m_pData->m_GenerarDibujo2);
-    DDX_Text (pDX, IDC_CAMBIOS_PENDIENTE_TIN_ENTERO,   m_pData->m_EnteroCambio);
     DDX_Text (pDX, IDC_CAMBIOS_PENDIENTE_TIN_CADENA,   m_pData->m_CadenaCambio);
+    DDX_Text (pDX, IDC_CAMBIOS_PENDIENTE_TIN_ENTERO,   m_pData->m_EnteroCambio);
     DDX_Text (pDX, IDC_CAMBIOS_PENDIENTE_TIN_VALOR,    m_pData->m_ValorCambio);
     // clang-format on
 }

@@ -49,25 +49,27 @@ CCurvadoDlg::~CCurvadoDlg() = default;
 
 void CCurvadoDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
+    // What is never refused comes first, then the scale: a click counts, a file name is there for
+    // the prompt, and the advanced values follow the scale, whatever the other numbers are.
     // clang-format off
-    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA,         m_pData->m_Equidistancia);
-    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA_MAESTRA, m_pData->m_EquidistanciaMaestra);
-    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_1,   m_pData->m_CurvasARespetar1);
-    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_2,   m_pData->m_CurvasARespetar2);
-    DDX_Text (pDX, IDC_CURVADO_FICHERO_LIMITE,        m_pData->m_FicheroLimite);
-    DDX_Text (pDX, IDC_CURVADO_ESCALA,                m_pData->m_Escala);
     DDX_Check(pDX, IDC_CURVADO_TEXTO_CURVAS,          m_pData->m_TextoCurvas);
-    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_2,         m_pData->m_TextoValor2);
-    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_1,         m_pData->m_TextoValor1);
-    DDX_Text (pDX, IDC_CURVADO_COTA_MINIMA,           m_pData->m_CotaMinima);
-    DDX_Text (pDX, IDC_CURVADO_TEXTO_ENTERO,          m_pData->m_TextoEntero);
-    DDX_Text (pDX, IDC_CURVADO_COTA_MAXIMA,           m_pData->m_CotaMaxima);
     DDX_Check(pDX, IDC_CURVADO_LIMITE,                m_pData->m_Limite);
     DDX_Check(pDX, IDC_CURVADO_OPCION_SUAVIZADO,      m_pData->m_OpcionSuavizado);
     DDX_Check(pDX, IDC_CURVADO_OPCION_1,              m_pData->m_Opcion1);
     DDX_Check(pDX, IDC_CURVADO_RESPETAR_CURVAS,       m_pData->m_RespetarCurvas);
     DDX_Check(pDX, IDC_CURVADO_RANGO_COTA,            m_pData->m_RangoCota);
     DDX_Check(pDX, IDC_CURVADO_OPCION_TEXTO,          m_pData->m_OpcionTexto);
+    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_1,   m_pData->m_CurvasARespetar1);
+    DDX_Text (pDX, IDC_CURVADO_CURVAS_A_RESPETAR_2,   m_pData->m_CurvasARespetar2);
+    DDX_Text (pDX, IDC_CURVADO_FICHERO_LIMITE,        m_pData->m_FicheroLimite);
+    DDX_Text (pDX, IDC_CURVADO_ESCALA,                m_pData->m_Escala);
+    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA,         m_pData->m_Equidistancia);
+    DDX_Text (pDX, IDC_CURVADO_EQUIDISTANCIA_MAESTRA, m_pData->m_EquidistanciaMaestra);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_2,         m_pData->m_TextoValor2);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_VALOR_1,         m_pData->m_TextoValor1);
+    DDX_Text (pDX, IDC_CURVADO_COTA_MINIMA,           m_pData->m_CotaMinima);
+    DDX_Text (pDX, IDC_CURVADO_TEXTO_ENTERO,          m_pData->m_TextoEntero);
+    DDX_Text (pDX, IDC_CURVADO_COTA_MAXIMA,           m_pData->m_CotaMaxima);
     DDX_Text (pDX, IDC_CURVADO_NIVEL_SUAVIZADO,       m_pData->m_NivelSuavizado);
     // clang-format on
 }

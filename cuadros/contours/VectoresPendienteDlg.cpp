@@ -19,16 +19,17 @@ CVectoresPendienteDlg::~CVectoresPendienteDlg() = default;
 
 void CVectoresPendienteDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    // The box comes first, so that a click on it counts whatever the numbers are.
+    // What is never refused comes first: a click counts, and a file name is there for the prompt,
+    // whatever the numbers are.
     // clang-format off
     DDX_Check(pDX, IDC_VECTORES_PENDIENTE_LIMITE,         m_pData->m_Limite);
-    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_1,        m_pData->m_ValorVector1);
-    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_2,        m_pData->m_ValorVector2);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_1,       m_pData->m_Cadena1);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_2,       m_pData->m_Cadena2);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_FICHERO_LIMITE, m_pData->m_FicheroLimite);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_1,        m_pData->m_ValorVector1);
+    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_VALOR_2,        m_pData->m_ValorVector2);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_VALOR_1,  m_pData->m_TextoValor1);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_TEXTO_ENTERO,   m_pData->m_TextoEntero);
-    DDX_Text (pDX, IDC_VECTORES_PENDIENTE_FICHERO_LIMITE, m_pData->m_FicheroLimite);
     // clang-format on
 }
 

@@ -198,9 +198,9 @@ TEST_F(CambiosPendienteTINDlg, FlagsCountAlsoWhereTheHostRefusesTheExchange) {
     });
 }
 
-// The boxes are exchanged first: OK follows them whatever the numbers are.
+// The boxes and the text are exchanged first: OK follows them whatever the numbers are.
 
-TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveOnlyTheEditsUnreadByTheClick) {
+TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveOnlyTheNumbersUnreadByTheClick) {
     for (const wchar_t* const malo : {L"", L"1.5", L"some", L"2147483648"}) {
         data.m_GenerarDibujo1 = TRUE;
         data.m_GenerarDibujo2 = TRUE;
@@ -219,7 +219,7 @@ TEST_F(CambiosPendienteTINDlg, BadDecimalsLeaveOnlyTheEditsUnreadByTheClick) {
             });
         EXPECT_EQ(resultado, IDCANCEL);
         EXPECT_EQ(data.m_EnteroCambio, 2);
-        EXPECT_EQ(data.m_CadenaCambio, L"SC");
+        EXPECT_EQ(data.m_CadenaCambio, L"Typed");
         EXPECT_EQ(data.m_ValorCambio, 12.5);
         EXPECT_EQ(data.m_GenerarDibujo1, 0);
         EXPECT_EQ(data.m_GenerarDibujo2, 0);
@@ -289,10 +289,10 @@ TEST_F(CambiosPendienteTINDlg, OkChecksNoRangeAndNoText) {
     EXPECT_EQ(data.m_ValorCambio, -1e300);
 }
 
-TEST_F(CambiosPendienteTINDlg, OkReadsTheBoxesAndThenTheRecordInItsOrder) {
+TEST_F(CambiosPendienteTINDlg, OkReadsTheBoxesTheTextAndThenTheNumbers) {
     Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(LeidosPorOk(dialogo, {Valor, Cadena, Entero, Dibujo2, Dibujo1}),
-                  (std::vector<int>{Dibujo1, Dibujo2, Entero, Cadena, Valor}));
+        EXPECT_EQ(LeidosPorOk(dialogo, {Valor, Entero, Cadena, Dibujo2, Dibujo1}),
+                  (std::vector<int>{Dibujo1, Dibujo2, Cadena, Entero, Valor}));
     });
 }
 

@@ -122,7 +122,10 @@ TEST_F(CurvadoDlgAbre, BadNumberAtBrowsingIsRefusedAndThenReplaced) {
     kit::app.answerFilePrompt(L"D:\\chosen.dxf");
     Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.type(CotaMinima, L"low");
+        dialogo.type(FicheroLimite, L"typed.dxf");
         dialogo.press(Buscar);
+        // What was typed is there for the prompt whatever the numbers are.
+        EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"typed.dxf");
         EXPECT_EQ(dialogo.text(CotaMinima), L"180");
         EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen.dxf");
         dialogo.press(IDCANCEL);

@@ -182,15 +182,15 @@ TEST_F(CurvadoDlgEscala, ScaleBeyondTheLargestIsRefused) {
     });
 }
 
-TEST_F(CurvadoDlgEscala, BadNumberElsewhereKeepsTheScaleOfBefore) {
+TEST_F(CurvadoDlgEscala, ValuesFollowTheScaleWhateverTheOtherNumbersAre) {
     Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.type(Equidistancia, L"five");
         dialogo.append(Escala, L"0");
-        // The interval is exchanged first.
+        // Of the numbers, the scale is exchanged first.
         EXPECT_EQ(dialogo.focus(), Equidistancia);
         EXPECT_EQ(dialogo.text(Escala), L"10000");
-        EXPECT_EQ(data.m_Escala, 1000U);
-        CompruebaValores(1000);
+        EXPECT_EQ(data.m_Escala, 10000U);
+        CompruebaValores(10000);
         dialogo.press(IDCANCEL);
     });
 }

@@ -457,12 +457,14 @@ TEST_F(CurvadoDlgOk, BadScaleIsRefusedAtItsKeyAndTwiceByOk) {
 TEST_F(CurvadoDlgOk, BadNumberKeepsWhatIsExchangedAfterItAndStoresTheTypeAllTheSame) {
     CDataCurvado esperado = data;
     esperado.m_Equidistancia = 7;
+    esperado.m_FicheroLimite = L"typed";
     esperado.m_TipoSuavizado = 1;
     Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.choose(TipoSuavizado, 1);
         dialogo.type(Equidistancia, L"7"); // exchanged before
+        dialogo.type(FicheroLimite, L"typed");
         dialogo.type(EquidistanciaMaestra, L"many");
-        dialogo.type(FicheroLimite, L"typed"); // and after it
+        dialogo.type(CotaMinima, L"1"); // and after it
         dialogo.press(IDOK);
         dialogo.press(IDCANCEL);
     });

@@ -350,18 +350,21 @@ TEST_F(CurvadoDlg, ClickExchangesAllThatWasTyped) {
     }
 }
 
-TEST_F(CurvadoDlg, BadNumberLeavesTheCheckBoxUnreadAndTheFieldOfBeforeEnables) {
-    for (const Casilla& casilla : Casillas)
+TEST_F(CurvadoDlg, ClickCountsWhateverTheNumbersAre) {
+    // Boxes are exchanged before numbers.
+    for (const Casilla& casilla : Casillas) {
         Abre({AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
             dialogo.type(Equidistancia, L"five");
             dialogo.click(casilla.control);
             EXPECT_FALSE(dialogo.checked(casilla.control));
-            EXPECT_EQ(data.*casilla.campo, 1);
-            EXPECT_EQ(Deshabilitados(dialogo), Controles{}) << casilla.control;
+            EXPECT_EQ(data.*casilla.campo, 0);
+            EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
             EXPECT_EQ(dialogo.focus(), Equidistancia);
             EXPECT_EQ(dialogo.text(Equidistancia), L"five");
             dialogo.press(IDCANCEL);
         });
+        data.*casilla.campo = TRUE;
+    }
 }
 
 TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {

@@ -319,8 +319,8 @@ TEST_F(VectoresPendienteDlg, BadNumberIsRefusedAtBrowsingAndThenReplaced) {
         dialogo.type(TextoValor1, L"high");
         dialogo.type(FicheroLimite, L"typed.dat");
         dialogo.press(Buscar);
-        // The host is asked all the same, with the name that the record had.
-        EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"C:\\survey\\edge.dat");
+        // The host is asked all the same, with the name that was typed.
+        EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"typed.dat");
         EXPECT_EQ(dialogo.text(TextoValor1), L"1.8");
         EXPECT_EQ(dialogo.text(FicheroLimite), L"chosen.dat");
         EXPECT_EQ(data.m_FicheroLimite, L"chosen.dat");
@@ -472,9 +472,9 @@ TEST_F(VectoresPendienteDlg, RefusalStaysOpenAndMovesNoFocus) {
          });
 }
 
-TEST_F(VectoresPendienteDlg, OkReadsTheBoxAndThenTheRecordInItsOrder) {
-    const std::vector<int> orden = {Limite,  Valor1,      Valor2,      Cadena1,
-                                    Cadena2, TextoValor1, TextoEntero, FicheroLimite};
+TEST_F(VectoresPendienteDlg, OkReadsTheBoxTheTextsAndThenTheNumbers) {
+    const std::vector<int> orden = {Limite, Cadena1, Cadena2,     FicheroLimite,
+                                    Valor1, Valor2,  TextoValor1, TextoEntero};
     std::vector<int> dosVeces = orden;
     dosVeces.insert(dosVeces.end(), orden.begin(), orden.end());
     Abre([&](kit::Dialog& dialogo) {
@@ -520,13 +520,13 @@ TEST_F(VectoresPendienteDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
     const auto resultado =
         Abre({AFX_IDP_PARSE_REAL, IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
             dialogo.type(Cadena1, L"");
-            dialogo.type(TextoValor1, L"high");
-            dialogo.type(FicheroLimite, L"");
+            dialogo.type(Valor2, L"long");
+            dialogo.type(TextoValor1, L"0");
             dialogo.press(IDOK);
             dialogo.press(IDCANCEL);
         });
     EXPECT_EQ(resultado, IDCANCEL);
-    EXPECT_EQ(data.m_FicheroLimite, L"C:\\survey\\edge.dat");
+    EXPECT_EQ(data.m_TextoValor1, 2);
 }
 
 TEST_F(VectoresPendienteDlg, OkGoesOnAfterARefusedExchangeOfItsOwn) {

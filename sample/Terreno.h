@@ -67,6 +67,7 @@ struct Terreno {
     Cotana::CDataCurvado curvado = {
         .m_ValorAvanzado1 = 0.2,
         .m_ValorAvanzado2 = 1,
+        .m_TextoCurvas = TRUE,
         .m_CodigoCurvas1 = L"CN",
         .m_CodigoCurvas2 = L"CNM",
         .m_CodigoCurvas3 = L"CND",

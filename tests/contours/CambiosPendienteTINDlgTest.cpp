@@ -3,7 +3,7 @@
 // while one of them is.
 #include "cuadros/contours/CambiosPendienteTINDlg.h"
 
-#include "ConDialogo.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 

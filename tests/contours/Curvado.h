@@ -4,7 +4,7 @@
 
 #include "cuadros/contours/CurvadoDlg.h"
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
@@ -50,7 +50,6 @@ constexpr int CurvasARespetar2 = IDC_CURVADO_CURVAS_A_RESPETAR_2;
 // Hosts, their help and the language file know these numbers.
 static_assert(IDD_CURVADO == 20093);
 static_assert(IDI_CURVADO == 20093);
-static_assert(ID_HELP == 57670);
 static_assert(Escala == 20087);
 static_assert(Equidistancia == 20081);
 static_assert(EquidistanciaMaestra == 20082);
@@ -82,7 +81,6 @@ static_assert(IDC_CURVADO_ROTULO_TIPO_SUAVIZADO == 20208);
 static_assert(IDC_CURVADO_ROTULO_NIVEL == 20209);
 static_assert(IDC_CURVADO_ROTULO_RESPETAR_1 == 20214);
 static_assert(IDC_CURVADO_ROTULO_RESPETAR_2 == 20215);
-static_assert(IDS_TITULO_MENSAJES == 15105);
 static_assert(IDS_ESCALA_NO_POSITIVA == 19078);
 static_assert(IDS_VALOR_TEXTO_NO_POSITIVO == 15037);
 static_assert(IDS_VALOR_NO_POSITIVO == 19076);
@@ -127,8 +125,7 @@ const std::vector<Casilla> Casillas = {
 /// The controls of the dialog for which `es` holds.
 inline Controles ControlesQue(const kit::Dialog& dialogo, const std::function<bool(HWND)>& es) {
     Controles controles;
-    for (HWND control = GetWindow(dialogo.handle(), GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT))
+    for (const HWND control : ControlesDe(dialogo.handle()))
         if (es(control))
             controles.insert(GetDlgCtrlID(control));
     return controles;
@@ -156,7 +153,7 @@ inline auto Campos(const CDataCurvado& data) {
         data.m_CotaMaxima, data.m_TextoEntero, data.m_NivelSuavizado, data.m_TipoSuavizado);
 }
 
-class Curvado : public testing::Test {
+class Curvado : public ConDialogo {
 protected:
     Curvado() {
         data.m_ValorAvanzado1 = 0.5;
@@ -189,48 +186,13 @@ protected:
         data.m_TipoSuavizado = 2;
     }
 
-    using Paso = std::function<void(kit::Dialog&)>;
-
     /// A dialog over the record and the model.
     template <class Dlg = CCurvadoDlg>
     Dlg Dialogo(CWnd* padre = nullptr) {
         return Dlg(data, plantilla, cotaMinimaModelo, cotaMaximaModelo, extras, padre);
     }
 
-    /// Opens `dialogo`, does `paso` in it, and returns what `DoModal` returned.
-    ///
-    /// @param mensajes the refusals that come meanwhile, in this order: numbers of the dialog's
-    ///                 messages, or of the framework's own prompts.
-    INT_PTR Conduce(CDialog& dialogo, std::initializer_list<UINT> mensajes, const Paso& paso,
-                    kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        for (const UINT mensaje : mensajes) {
-            if (mensaje == AFX_IDP_PARSE_REAL || mensaje == AFX_IDP_PARSE_INT ||
-                mensaje == AFX_IDP_PARSE_UINT)
-                EsperaAviso(guion, mensaje, 1, donde);
-            else
-                guion
-                    .expectMessage(TextoDe(IDS_TITULO_MENSAJES), TextoDe(mensaje), MB_ICONERROR,
-                                   donde)
-                    .buttons(MB_OK)
-                    .ownedByDialog();
-        }
-        return guion.run([&] { return dialogo.DoModal(); }, donde);
-    }
-    INT_PTR Conduce(CDialog& dialogo, const Paso& paso, kit::Where donde = kit::Where::current()) {
-        return Conduce(dialogo, {}, paso, donde);
-    }
-
-    /// The same with a dialog of its own.
-    INT_PTR Abre(std::initializer_list<UINT> mensajes, const Paso& paso,
-                 kit::Where donde = kit::Where::current()) {
-        auto dialogo = Dialogo();
-        return Conduce(dialogo, mensajes, paso, donde);
-    }
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        return Abre({}, paso, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return Dialogo(padre).DoModal(); }
 
     /// Clears every check box that enables others, and takes the first type of smoothing.
     void NadaEnUso() {

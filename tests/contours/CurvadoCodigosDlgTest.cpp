@@ -3,7 +3,7 @@
 // Cancel leaves these alone.
 #include "cuadros/contours/CurvadoCodigosDlg.h"
 
-#include "ConDialogo.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 

@@ -62,7 +62,7 @@ TEST_F(CurvadoDlgAbre, BrowsingAsksTheHostForAFileThatExists) {
     plantilla = reinterpret_cast<CDocTemplate*>(&kit::app);
     auto derivado = Dialogo<CDerivado>();
     kit::app.answerFilePrompt(L"D:\\chosen one.dxf");
-    Conduce(derivado, [&](kit::Dialog& dialogo) {
+    Abre(derivado, [&](kit::Dialog& dialogo) {
         dialogo.type(FicheroLimite, L"C:\\typed.dxf");
         dialogo.type(Equidistancia, L"7.50");
         derivado.Intercambios();
@@ -91,7 +91,7 @@ TEST_F(CurvadoDlgAbre, BrowsingAsksTheHostForAFileThatExists) {
 TEST_F(CurvadoDlgAbre, CancelledBrowsingKeepsWhatWasTyped) {
     kit::app.cancelFilePrompt();
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         dialogo.type(FicheroLimite, L"C:\\typed.dxf");
         dialogo.type(Equidistancia, L"7.50");
         contador.Intercambios();
@@ -136,7 +136,7 @@ TEST_F(CurvadoDlgAbre, RefusedExchangeStillAsksTheHost) {
     kit::app.answerFilePrompt(L"D:\\chosen.dxf");
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 6;
-    Conduce(desconfiado, [](kit::Dialog& dialogo) {
+    Abre(desconfiado, [](kit::Dialog& dialogo) {
         dialogo.press(Buscar);
         EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen.dxf");
         dialogo.press(IDCANCEL);

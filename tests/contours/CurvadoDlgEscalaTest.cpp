@@ -87,7 +87,7 @@ TEST_F(CurvadoDlgEscala, AnyFlagButZeroFollows) {
 
 TEST_F(CurvadoDlgEscala, EachKeyExchangesOnceAndShowsNothing) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         dialogo.type(Equidistancia, L"7.50");
         contador.Intercambios();
         dialogo.type(Escala, L"2500");
@@ -198,7 +198,7 @@ TEST_F(CurvadoDlgEscala, ValuesFollowTheScaleWhateverTheOtherNumbersAre) {
 TEST_F(CurvadoDlgEscala, RefusedExchangeStillWritesTheValues) {
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 6;
-    Conduce(desconfiado, [this](kit::Dialog& dialogo) {
+    Abre(desconfiado, [this](kit::Dialog& dialogo) {
         dialogo.append(Escala, L"0");
         EXPECT_EQ(data.m_Escala, 10000U);
         CompruebaValores(10000);
@@ -220,7 +220,7 @@ TEST_F(CurvadoDlgEscala, OpeningLeavesValuesOfAnotherScale) {
 
 TEST_F(CurvadoDlgEscala, ShowingTheRecordAgainLeavesThemToo) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         data.m_Escala = 3000;
         contador.Intercambios();
         contador.UpdateData(FALSE);

@@ -345,7 +345,7 @@ TEST_F(CurvadoDlgOk, RefusalLeavesTheRecordWithWhatWasExchanged) {
 
 TEST_F(CurvadoDlgOk, RefusalIsASingleExchange) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, {20029}, [&](kit::Dialog& dialogo) {
+    Abre(contador, {20029}, [&](kit::Dialog& dialogo) {
         dialogo.type(CotaMinima, L"450");
         contador.Intercambios();
         dialogo.press(IDOK);
@@ -495,7 +495,7 @@ TEST_F(CurvadoDlgOk, CorrectedNumberIsTaken) {
 TEST_F(CurvadoDlgOk, RefusedExchangeIsFollowedByTheChecks) {
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 6;
-    const auto resultado = Conduce(desconfiado, [](kit::Dialog& dialogo) {
+    const auto resultado = Abre(desconfiado, [](kit::Dialog& dialogo) {
         dialogo.type(Equidistancia, L"7");
         dialogo.press(IDOK);
     });
@@ -506,7 +506,7 @@ TEST_F(CurvadoDlgOk, RefusedExchangeIsFollowedByTheChecks) {
 TEST_F(CurvadoDlgOk, RefusedLastExchangeKeepsTheDialogOpen) {
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 7;
-    const auto resultado = Conduce(desconfiado, [](kit::Dialog& dialogo) {
+    const auto resultado = Abre(desconfiado, [](kit::Dialog& dialogo) {
         dialogo.press(IDOK);
         EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
         dialogo.press(IDCANCEL);

@@ -181,7 +181,7 @@ TEST_F(CurvadoDlg, OpeningTakesItsStepsInTheirOrder) {
     NadaEnUso();
     extras = SW_HIDE;
     auto dialogo = Dialogo<CApuntado>();
-    Conduce(dialogo, [](kit::Dialog& abierto) { abierto.press(IDCANCEL); });
+    Abre(dialogo, [](kit::Dialog& abierto) { abierto.press(IDCANCEL); });
     EXPECT_EQ(dialogo.pasos,
               "M\n"
               "moved\nicon\nrange 1024\nselect 0\n"
@@ -206,7 +206,7 @@ TEST_F(CurvadoDlg, OpeningGoesOnWhereAnExchangeIsRefused) {
     for (int cual = 1; cual <= 5; ++cual) {
         auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
         desconfiado.rechazado = cual;
-        Conduce(desconfiado, [&](kit::Dialog& dialogo) {
+        Abre(desconfiado, [&](kit::Dialog& dialogo) {
             EXPECT_EQ(Deshabilitados(dialogo), esperados) << "exchange " << cual;
             EXPECT_EQ(dialogo.focus(), Escala);
             dialogo.press(IDCANCEL);
@@ -247,7 +247,7 @@ TEST_F(CurvadoDlg, GroupIsShownAlsoWhereItWasHidden) {
             for (const int control : Ocultables)
                 este.GetDlgItem(control)->ShowWindow(SW_HIDE);
         };
-        Conduce(dialogo, [&](kit::Dialog& abierto) {
+        Abre(dialogo, [&](kit::Dialog& abierto) {
             EXPECT_EQ(Ocultos(abierto), Controles{}) << como;
             abierto.press(IDCANCEL);
         });
@@ -321,7 +321,7 @@ TEST_F(CurvadoDlg, CheckBoxesEnableIndependentlyOfEachOther) {
 
 TEST_F(CurvadoDlg, OtherCheckBoxesEnableNothing) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         contador.Intercambios();
         for (const int control : {OpcionSuavizado, Opcion1, OpcionTexto}) {
             dialogo.click(control);
@@ -371,7 +371,7 @@ TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {
     for (const Casilla& casilla : Casillas) {
         auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
         desconfiado.rechazado = 6;
-        Conduce(desconfiado, [&](kit::Dialog& dialogo) {
+        Abre(desconfiado, [&](kit::Dialog& dialogo) {
             dialogo.click(casilla.control);
             EXPECT_EQ(Deshabilitados(dialogo), casilla.dependientes) << casilla.control;
             dialogo.click(casilla.control);
@@ -434,7 +434,7 @@ TEST_F(CurvadoDlg, CancelKeepsTheTypeOfBefore) {
 
 TEST_F(CurvadoDlg, ExchangesLeaveTheSelectionAlone) {
     auto dlg = Dialogo();
-    Conduce(dlg, [&](kit::Dialog& dialogo) {
+    Abre(dlg, [&](kit::Dialog& dialogo) {
         dialogo.choose(TipoSuavizado, 1);
         EXPECT_TRUE(dlg.UpdateData(FALSE));
         EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 1);
@@ -496,7 +496,7 @@ TEST_F(CurvadoDlg, TypeIsChosenWhereThereWasNone) {
 TEST_F(CurvadoDlg, ChangeToNoTypeExchangesAndLeavesTheControls) {
     data.m_TipoSuavizado = 0;
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         contador.Intercambios();
         SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
         contador.OnCbnSelchangeTipoSuavizado();
@@ -513,7 +513,7 @@ TEST_F(CurvadoDlg, ChangeToNoTypeExchangesAndLeavesTheControls) {
 
 TEST_F(CurvadoDlg, ListWithoutItemsLeavesTheControls) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         contador.Intercambios();
         SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, 0, 0);
         {
@@ -532,7 +532,7 @@ TEST_F(CurvadoDlg, ListWithoutItemsLeavesTheControls) {
 TEST_F(CurvadoDlg, RefusedExchangeOfAChoiceStillEnables) {
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 6;
-    Conduce(desconfiado, [](kit::Dialog& dialogo) {
+    Abre(desconfiado, [](kit::Dialog& dialogo) {
         dialogo.choose(TipoSuavizado, 0);
         EXPECT_EQ(Deshabilitados(dialogo), DeSuavizado);
         dialogo.press(IDCANCEL);
@@ -730,7 +730,7 @@ TEST_F(CurvadoDlg, HelpOfADerivedClassIsTheOneThatOpens) {
 
 TEST_F(CurvadoDlg, HostSeesEachExchangeAsItIsDocumented) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    const auto resultado = Conduce(contador, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "MMSSSSSM");
         for (const Casilla& casilla : Casillas) {
             dialogo.click(casilla.control);
@@ -752,7 +752,7 @@ TEST_F(CurvadoDlg, HostSeesEachExchangeAsItIsDocumented) {
 
 TEST_F(CurvadoDlg, EachHandlerAnswersItsOwnNotification) {
     auto contador = Dialogo<ConIntercambios<CCurvadoDlg>>();
-    Conduce(contador, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         const auto tras = [&](int control, int aviso) {
             contador.Intercambios();
             SendMessageW(dialogo.handle(), WM_COMMAND, MAKEWPARAM(control, aviso),
@@ -776,7 +776,7 @@ TEST_F(CurvadoDlg, EachHandlerAnswersItsOwnNotification) {
 TEST_F(CurvadoDlg, HostCallsTheHandlersItself) {
     data.m_AvanzadoPorEscala = TRUE;
     auto dlg = Dialogo();
-    const auto resultado = Conduce(dlg, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(dlg, [&](kit::Dialog& dialogo) {
         const std::pair<const Casilla&, void (CCurvadoDlg::*)()> manejadores[] = {
             {Casillas[0], &CCurvadoDlg::OnCheckTextoCurvas},
             {Casillas[1], &CCurvadoDlg::OnCheckLimite},

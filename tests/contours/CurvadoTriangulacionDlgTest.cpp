@@ -2,7 +2,7 @@
 // which code; OK wants an interval above zero and a code, and the host reads both from the dialog.
 #include "cuadros/contours/CurvadoTriangulacionDlg.h"
 
-#include "ConDialogo.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 

@@ -3,7 +3,7 @@
 // OK checks the values in a fixed order and says the first that is wrong.
 #include "cuadros/contours/VectoresPendienteDlg.h"
 
-#include "ConDialogo.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 

@@ -1,5 +1,5 @@
-// What the tests of the dialogs of contours and slopes have in common: a conversation over values
-// of the test's own, and the diary of what happens to the controls.
+// A conversation of one dialog over values of the test's own, and the diary of what happens to its
+// controls.
 #pragma once
 
 #include "checks/Comprobaciones.h"
@@ -38,6 +38,10 @@ protected:
     static INT_PTR Abre(CDialog& dialogo, Mensajes mensajes, const Paso& paso,
                         kit::Where donde = kit::Where::current()) {
         return Conduce([&] { return dialogo.DoModal(); }, mensajes, paso, donde);
+    }
+    static INT_PTR Abre(CDialog& dialogo, const Paso& paso,
+                        kit::Where donde = kit::Where::current()) {
+        return Abre(dialogo, {}, paso, donde);
     }
 
     void CompruebaQueSeCentra() {

@@ -3,7 +3,7 @@
 // all that he typed is in the record, whether he then takes OK or not.
 #include "cuadros/triangulation/SuavizarTINDlg.h"
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
@@ -18,9 +18,8 @@ static_assert(Factor == 20077);
 static_assert(Iterar == 1031);
 static_assert(Iteraciones == 1032);
 static_assert(IDI_TRIANGULACION == 19011);
-static_assert(ID_HELP == 57670);
 
-class SuavizarTINDlg : public testing::Test {
+class SuavizarTINDlg : public ConDialogo {
 protected:
     SuavizarTINDlg() {
         data.m_Factor = 0.25;
@@ -28,21 +27,7 @@ protected:
         data.m_Iteraciones = 3;
     }
 
-    using Paso = std::function<void(kit::Dialog&)>;
-
-    /// Opens the dialog and does `paso` in it.
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        return guion.run([this] { return CSuavizarTINDlg(data).DoModal(); }, donde);
-    }
-    /// The same; the framework's prompt comes meanwhile, once.
-    INT_PTR AbreConAviso(UINT aviso, const Paso& paso, kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        EsperaAviso(guion, aviso, 1, donde);
-        return guion.run([this] { return CSuavizarTINDlg(data).DoModal(); }, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return CSuavizarTINDlg(data, padre).DoModal(); }
 
     Cotana::CDataSuavizarTIN data;
 };
@@ -72,7 +57,7 @@ TEST_F(SuavizarTINDlg, SingleSmoothingStartsWithTheNumberOfTimesDisabled) {
 }
 
 TEST_F(SuavizarTINDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaCentro([this](CWnd* duena) { return CSuavizarTINDlg(data, duena).DoModal(); });
+    CompruebaQueSeCentra();
 }
 
 TEST_F(SuavizarTINDlg, HasItsSmallIconOnly) {
@@ -121,7 +106,7 @@ TEST_F(SuavizarTINDlg, RepetitionEnablesItsNumberOfTimes) {
 
 TEST_F(SuavizarTINDlg, BadNumberOfTimesLeavesTheFlagUnread) {
     for (const wchar_t* const malo : {L"-1", L"", L"2.5", L"many", L"4294967296"}) {
-        const auto resultado = AbreConAviso(AFX_IDP_PARSE_UINT, [&](kit::Dialog& dialogo) {
+        const auto resultado = Abre({AFX_IDP_PARSE_UINT}, [&](kit::Dialog& dialogo) {
             dialogo.type(Factor, L"0.75");
             dialogo.type(Iteraciones, malo);
             dialogo.click(Iterar);
@@ -142,7 +127,7 @@ TEST_F(SuavizarTINDlg, BadNumberOfTimesLeavesTheFlagUnread) {
 }
 
 TEST_F(SuavizarTINDlg, CorrectedNumberOfTimesReadsTheFlagWithOk) {
-    const auto resultado = AbreConAviso(AFX_IDP_PARSE_UINT, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_UINT}, [&](kit::Dialog& dialogo) {
         dialogo.type(Iteraciones, L"");
         dialogo.click(Iterar);
         dialogo.type(Iteraciones, L"12");
@@ -154,7 +139,7 @@ TEST_F(SuavizarTINDlg, CorrectedNumberOfTimesReadsTheFlagWithOk) {
 }
 
 TEST_F(SuavizarTINDlg, BadFactorIsRefusedAtTheClickAfterTheFlagIsRead) {
-    const auto resultado = AbreConAviso(AFX_IDP_PARSE_REAL, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
         dialogo.type(Factor, L"strong");
         dialogo.click(Iterar);
         EXPECT_EQ(data.m_Iterar, 0);
@@ -203,7 +188,7 @@ TEST_F(SuavizarTINDlg, DisabledNumberOfTimesStillComesBack) {
 }
 
 TEST_F(SuavizarTINDlg, BadFactorIsRefusedOnceByOk) {
-    const auto resultado = AbreConAviso(AFX_IDP_PARSE_REAL, [](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.type(Factor, L"0,5");
         dialogo.type(Iteraciones, L"9");
         dialogo.press(IDOK);
@@ -290,13 +275,7 @@ TEST_F(SuavizarTINDlg, SpaceChangesTheCheckBox) {
 }
 
 TEST_F(SuavizarTINDlg, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
-                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
-                  kit::keyboard::press(VK_RETURN);
-              }),
-              IDOK);
-    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    CompruebaSalidas();
 }
 
 // Help.

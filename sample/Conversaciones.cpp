@@ -39,7 +39,7 @@ const std::vector<Conversacion>& Conversaciones() {
          AbreCurvado, FichaCurvado, ConduceCurvado, DibujaCurvas},
         {L"Contours and slopes", L"Contour codes", L"CurvadoCodigosDlg", 151074,
          PreparaCurvadoCodigos, AbreCurvadoCodigos, FichaCurvadoCodigos, ConduceCurvadoCodigos},
-        {L"Contours and slopes", L"Contours of a triangulation", L"CurvadoTriangulacionDlg", 0,
+        {L"Contours and slopes", L"Contours from a triangulation", L"CurvadoTriangulacionDlg", 0,
          PreparaCurvadoTriangulacion, AbreCurvadoTriangulacion, FichaCurvadoTriangulacion,
          ConduceCurvadoTriangulacion},
         {L"Contours and slopes", L"Slope vectors", L"VectoresPendienteDlg", 151299,

@@ -35,6 +35,7 @@ BOOL CCurvadoTriangulacionDlg::OnInitDialog() {
 void CCurvadoTriangulacionDlg::OnOK() {
     // Kept: a number that does not convert is checked as it was before, and refused again below.
     UpdateData(TRUE);
+    // Kept: where both are wrong, only the interval is refused.
     if (Cuadros::Signo(m_Equidistancia) != 1)
         return Cuadros::Rechaza(*this, IDS_VALOR_NO_POSITIVO);
     if (m_Cadena.IsEmpty())

@@ -67,7 +67,7 @@ void CVectoresPendienteDlg::OnOK() {
     UpdateData(TRUE);
     const Cotana::CDataVectoresPendiente& data = *m_pData;
 
-    // Kept: without the tolerance that other checks have.
+    // Kept: in this order, and without the tolerance that other checks have.
     if (data.m_TextoValor1 <= 0)
         return Cuadros::Rechaza(*this, IDS_VALOR_TEXTO_NO_POSITIVO);
     // Kept: the text of this message is that of its own caption.

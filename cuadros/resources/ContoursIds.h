@@ -38,7 +38,8 @@
 #define IDC_CURVADO_ROTULO_RESPETAR_2     20215
 #define IDC_CURVADO_CURVAS_A_RESPETAR_2   20084
 
-// CCurvadoCodigosDlg. The numbers are never shown; 20042 is not among them.
+// CCurvadoCodigosDlg
+// The numbers are never shown; 20042 is not among them.
 #define IDD_CURVADO_CODIGOS          20002
 #define IDC_CURVADO_CODIGOS_CODIGO_1 20083
 #define IDC_CURVADO_CODIGOS_CODIGO_2 20084
@@ -56,7 +57,8 @@
 #define IDC_CURVADO_TRIANGULACION_EQUIDISTANCIA 19203
 #define IDC_CURVADO_TRIANGULACION_CADENA        18067
 
-// CVectoresPendienteDlg. The legend is never shown.
+// CVectoresPendienteDlg
+// The legend is never shown.
 #define IDD_VECTORES_PENDIENTE                20227
 #define IDC_VECTORES_PENDIENTE_VALOR_1        20018
 #define IDC_VECTORES_PENDIENTE_VALOR_2        14128
@@ -70,7 +72,8 @@
 #define IDC_VECTORES_PENDIENTE_FICHERO_LIMITE 20047 // not the number that it has in CCurvadoDlg
 #define IDC_VECTORES_PENDIENTE_BUSCAR         20085
 
-// CCambiosPendienteTINDlg. The two notes are never enabled.
+// CCambiosPendienteTINDlg
+// The two notes are never enabled.
 #define IDD_CAMBIOS_PENDIENTE_TIN             20113
 #define IDC_CAMBIOS_PENDIENTE_TIN_VALOR       20077
 #define IDC_CAMBIOS_PENDIENTE_TIN_NOTA_VALOR  14501

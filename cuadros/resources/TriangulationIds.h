@@ -64,7 +64,8 @@
 #define IDC_SUAVIZAR_TIN_ITERAR      1031
 #define IDC_SUAVIZAR_TIN_ITERACIONES 1032
 
-// CLimpiarRelieveDlg. The lower number belongs to the first value.
+// CLimpiarRelieveDlg
+// The lower number belongs to the first value.
 #define IDD_LIMPIAR_RELIEVE         19001
 #define IDC_LIMPIAR_RELIEVE_VALOR_A 19009
 #define IDC_LIMPIAR_RELIEVE_VALOR_B 19010

@@ -191,3 +191,19 @@ inline void CompruebaClase(const CObject& dialogo, const CRuntimeClass* clase, c
     EXPECT_STREQ(clase->m_lpszClassName, nombre);
     EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
 }
+
+/// The help of `Dlg` exchanges nothing: where a number is bad, nobody is told so then.
+template <class Dlg, class... Argumentos>
+void CompruebaAyudaSinIntercambio(Argumentos&&... argumentos) {
+    ConIntercambios<Dlg> contador(std::forward<Argumentos>(argumentos)...);
+    kit::Script guion;
+    guion.onDialog([&](kit::Dialog& dialogo) {
+        contador.Intercambios();
+        dialogo.help();
+        dialogo.press(ID_HELP);
+        EXPECT_EQ(contador.Intercambios(), "");
+        dialogo.press(IDCANCEL);
+    });
+    guion.run([&] { return contador.DoModal(); });
+    EXPECT_EQ(kit::app.takeHelpRequests().size(), 2U);
+}

@@ -96,8 +96,8 @@ inline std::vector<int> ControlesCon(const kit::Dialog& dialogo, LONG_PTR estilo
     return numeros;
 }
 
-/// What happens, in its order: "hide 20239", "enable 20047" and the like for the controls, "M" and
-/// "S" for the exchanges as in `ConIntercambios`.
+/// What happens, in its order: "hide 20239", "enable 20047" and the like for the controls, "centre"
+/// and "icon" for the dialog, "M" and "S" for the exchanges as in `ConIntercambios`.
 using Diario = std::vector<std::string>;
 
 /// For its life writes down which controls of a dialog are hidden, shown, disabled and enabled.
@@ -128,6 +128,13 @@ public:
 
     BOOL OnInitDialog() override {
         const EscuchaControles escucha(this->m_hWnd, diario);
+        const Escucha marco(this->m_hWnd, [this](UINT mensaje, WPARAM cual, LPARAM) {
+            if (mensaje == WM_WINDOWPOSCHANGING)
+                diario.emplace_back("centre");
+            if (mensaje == WM_SETICON)
+                diario.emplace_back(cual == ICON_SMALL ? "icon" : "big icon");
+            return std::optional<LRESULT>();
+        });
         const BOOL resultado = Dlg::OnInitDialog();
         EXPECT_TRUE(resultado) << "the focus is the framework's to set";
         return resultado;

@@ -87,8 +87,8 @@ TEST_F(CambiosPendienteTINDlg, OpensInItsOrder) {
     data.m_GenerarDibujo2 = FALSE;
     ConDiario<CCambiosPendienteTINDlg> conDiario(data);
     Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
-    EXPECT_EQ(conDiario.diario,
-              (Diario{"M", "disable 14501", "disable 14503", "M", "S", "disable 1"}));
+    EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "disable 14501", "disable 14503",
+                                        "M", "S", "disable 1"}));
 }
 
 TEST_F(CambiosPendienteTINDlg, OpensInTheMiddleOfItsOwner) {
@@ -258,6 +258,28 @@ TEST_F(CambiosPendienteTINDlg, WhatComesBeforeABadValueIsInTheRecord) {
     EXPECT_EQ(data.m_GenerarDibujo1, 0);
 }
 
+TEST_F(CambiosPendienteTINDlg, OkFollowsTheRecordWhereTheHostChangesIt) {
+    // The host never makes the second drawing.
+    class CSinSegundo : public CCambiosPendienteTINDlg {
+    public:
+        using CCambiosPendienteTINDlg::CCambiosPendienteTINDlg;
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override {
+            CCambiosPendienteTINDlg::DoDataExchange(pDX);
+            m_pData->m_GenerarDibujo2 = FALSE;
+        }
+    } dlg(data);
+    Abre(dlg, [](kit::Dialog& dialogo) {
+        dialogo.click(Dibujo1);
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.click(Dibujo2);
+        EXPECT_TRUE(dialogo.checked(Dibujo2));
+        EXPECT_FALSE(dialogo.enabled(IDOK));
+        dialogo.press(IDCANCEL);
+    });
+}
+
 // OK.
 
 TEST_F(CambiosPendienteTINDlg, OkLeavesEverythingInTheRecord) {
@@ -277,16 +299,24 @@ TEST_F(CambiosPendienteTINDlg, OkLeavesEverythingInTheRecord) {
 }
 
 TEST_F(CambiosPendienteTINDlg, OkChecksNoRangeAndNoText) {
-    const auto resultado = Abre([](kit::Dialog& dialogo) {
-        dialogo.type(Entero, L"-2147483648");
-        dialogo.type(Cadena, L"");
-        dialogo.type(Valor, L"-1e300");
-        dialogo.press(IDOK);
-    });
-    EXPECT_EQ(resultado, IDOK);
-    EXPECT_EQ(data.m_EnteroCambio, INT_MIN);
-    EXPECT_EQ(data.m_CadenaCambio, L"");
-    EXPECT_EQ(data.m_ValorCambio, -1e300);
+    const CString larga(L'k', 300);
+    const struct {
+        const wchar_t* entero;
+        CString cadena;
+        const wchar_t* valor;
+    } casos[] = {{L"-2147483648", L"", L"-1e300"}, {L"2147483647", larga, L"1e300"}};
+    for (const auto& caso : casos) {
+        const auto resultado = Abre([&](kit::Dialog& dialogo) {
+            dialogo.type(Entero, caso.entero);
+            dialogo.setText(Cadena, caso.cadena.GetString());
+            dialogo.type(Valor, caso.valor);
+            dialogo.press(IDOK);
+        });
+        EXPECT_EQ(resultado, IDOK);
+        EXPECT_EQ(data.m_EnteroCambio, _wtoi(caso.entero));
+        EXPECT_EQ(data.m_CadenaCambio, caso.cadena);
+        EXPECT_EQ(data.m_ValorCambio, _wtof(caso.valor));
+    }
 }
 
 TEST_F(CambiosPendienteTINDlg, OkReadsTheBoxesTheTextAndThenTheNumbers) {
@@ -410,7 +440,7 @@ TEST_F(CambiosPendienteTINDlg, MnemonicsReachTheirControls) {
         EXPECT_EQ(dialogo.focus(), Entero);
         kit::keyboard::mnemonic(L'c');
         EXPECT_EQ(dialogo.focus(), Cadena);
-        kit::keyboard::mnemonic(L'l');
+        kit::keyboard::mnemonic(L's');
         EXPECT_EQ(dialogo.focus(), Valor);
         kit::keyboard::mnemonic(L'r');
         EXPECT_EQ(dialogo.focus(), Dibujo1);
@@ -467,6 +497,10 @@ TEST_F(CambiosPendienteTINDlg, F1AndTheHelpButtonOpenItsPage) {
         CompruebaAyuda(dialogo, {Entero, Cadena, Dibujo1}, 151185);
         dialogo.press(IDCANCEL);
     });
+}
+
+TEST_F(CambiosPendienteTINDlg, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<CCambiosPendienteTINDlg>(data);
 }
 
 TEST_F(CambiosPendienteTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {

@@ -78,8 +78,8 @@ TEST_F(CurvadoCodigosDlg, NumbersOfTheCodesAreHiddenAndNothingElse) {
 TEST_F(CurvadoCodigosDlg, OpensByOneExchangeAndThenHidesTheNumbersInTheirOrder) {
     auto conDiario = Dialogo<ConDiario<CCurvadoCodigosDlg>>();
     Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
-    EXPECT_EQ(conDiario.diario,
-              (Diario{"M", "hide 20039", "hide 20040", "hide 20041", "hide 20043", "hide 20044"}));
+    EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "hide 20039", "hide 20040",
+                                        "hide 20041", "hide 20043", "hide 20044"}));
 }
 
 TEST_F(CurvadoCodigosDlg, OpensInTheMiddleOfItsOwner) {
@@ -197,6 +197,11 @@ TEST_F(CurvadoCodigosDlg, F1AndTheHelpButtonOpenItsPage) {
         CompruebaAyuda(dialogo, {Codigos[0], Codigos[4]}, 151074);
         dialogo.press(IDCANCEL);
     });
+}
+
+TEST_F(CurvadoCodigosDlg, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<CCurvadoCodigosDlg>(codigos[0], codigos[1], codigos[2], codigos[3],
+                                                     codigos[4]);
 }
 
 TEST_F(CurvadoCodigosDlg, HelpOfADerivedClassIsTheOneThatOpens) {

@@ -722,6 +722,10 @@ TEST_F(CurvadoDlg, F1AndTheHelpButtonOpenItsPage) {
     });
 }
 
+TEST_F(CurvadoDlg, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<CCurvadoDlg>(data, nullptr, 150.0, 400.0, 1);
+}
+
 TEST_F(CurvadoDlg, HelpOfADerivedClassIsTheOneThatOpens) {
     CompruebaAyudaDerivada<CCurvadoDlg>(data, nullptr, 150.0, 400.0, 1);
 }

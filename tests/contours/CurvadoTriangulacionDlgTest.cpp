@@ -42,7 +42,7 @@ protected:
 
 TEST_F(CurvadoTriangulacionDlg, ShowsTheIntervalAndTheCode) {
     Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(dialogo.caption(), L"Contours of a Triangulation");
+        EXPECT_EQ(dialogo.caption(), L"Contours from a Triangulation");
         EXPECT_EQ(dialogo.text(Equidistancia), L"2.5");
         EXPECT_EQ(dialogo.text(Cadena), L"CV");
         EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
@@ -54,7 +54,7 @@ TEST_F(CurvadoTriangulacionDlg, ShowsTheIntervalAndTheCode) {
 TEST_F(CurvadoTriangulacionDlg, OpensByOneExchange) {
     ConDiario<CCurvadoTriangulacionDlg> conDiario(equidistancia, cadena);
     Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
-    EXPECT_EQ(conDiario.diario, Diario{"M"});
+    EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon"}));
 }
 
 TEST_F(CurvadoTriangulacionDlg, OpensInTheMiddleOfItsOwner) {
@@ -73,13 +73,33 @@ TEST_F(CurvadoTriangulacionDlg, HasItsSmallIconOnly) {
 TEST_F(CurvadoTriangulacionDlg, HostReadsBothAfterOk) {
     EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
                   dialogo.type(Equidistancia, L"1e1");
-                  dialogo.type(Cadena, L"C 5");
+                  dialogo.type(Cadena, L"Curva \u00F1 5");
                   dialogo.press(IDOK);
               }),
               IDOK);
     EXPECT_EQ(leida, 10);
-    EXPECT_EQ(codigo, L"C 5");
+    EXPECT_EQ(codigo, L"Curva \u00F1 5");
     EXPECT_EQ(cadena, L"CV") << "the host's own text is only copied";
+}
+
+TEST_F(CurvadoTriangulacionDlg, NeitherHasALargestValue) {
+    const CString larga(L'k', 300);
+    EXPECT_EQ(Abre([&](kit::Dialog& dialogo) {
+                  dialogo.type(Equidistancia, L"1e300");
+                  dialogo.setText(Cadena, larga.GetString());
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(leida, 1e300);
+    EXPECT_EQ(codigo, larga);
+    // A negative one is refused by the dialog's own check alone.
+    EXPECT_EQ(Abre({19076},
+                   [](kit::Dialog& dialogo) {
+                       dialogo.type(Equidistancia, L"-1e300");
+                       dialogo.press(IDOK);
+                       dialogo.press(IDCANCEL);
+                   }),
+              IDCANCEL);
 }
 
 TEST_F(CurvadoTriangulacionDlg, IntervalComesBackRoundedTo15DigitsByOkAlone) {

@@ -138,8 +138,8 @@ TEST_F(VectoresPendienteDlg, OpensInItsOrder) {
     data.m_Limite = FALSE;
     auto conDiario = Dialogo<ConDiario<CVectoresPendienteDlg>>();
     Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
-    EXPECT_EQ(conDiario.diario, (Diario{"M", "hide 20239", "hide 20240", "M", "S", "disable 20047",
-                                        "disable 20085"}));
+    EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "hide 20239", "hide 20240", "M", "S",
+                                        "disable 20047", "disable 20085"}));
 }
 
 TEST_F(VectoresPendienteDlg, OpensInTheMiddleOfItsOwner) {
@@ -329,6 +329,46 @@ TEST_F(VectoresPendienteDlg, BadNumberIsRefusedAtBrowsingAndThenReplaced) {
 }
 
 // OK.
+
+TEST_F(VectoresPendienteDlg, ExchangeHasNoLimits) {
+    const CString larga(L'k', 300);
+    for (const wchar_t* const texto : {L"-1e300", L"1e300"})
+        Abre([&](kit::Dialog& dialogo) {
+            for (const int control : {Valor1, Valor2, TextoValor1})
+                dialogo.type(control, texto);
+            for (const int control : {Cadena1, Cadena2, FicheroLimite})
+                dialogo.setText(control, larga.GetString());
+            dialogo.click(Limite);
+            for (const double valor :
+                 {data.m_ValorVector1, data.m_ValorVector2, data.m_TextoValor1})
+                EXPECT_EQ(valor, _wtof(texto));
+            for (const CString& cadena : {data.m_Cadena1, data.m_Cadena2, data.m_FicheroLimite})
+                EXPECT_EQ(cadena, larga);
+            dialogo.click(Limite);
+            dialogo.press(IDCANCEL);
+        });
+}
+
+TEST_F(VectoresPendienteDlg, BoundaryFollowsTheRecordWhereTheHostChangesIt) {
+    // The host knows of no boundaries.
+    class CSinLimite : public CVectoresPendienteDlg {
+    public:
+        using CVectoresPendienteDlg::CVectoresPendienteDlg;
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override {
+            CVectoresPendienteDlg::DoDataExchange(pDX);
+            m_pData->m_Limite = FALSE;
+        }
+    };
+    auto dlg = Dialogo<CSinLimite>();
+    Abre(dlg, [](kit::Dialog& dialogo) {
+        dialogo.check(Limite);
+        EXPECT_FALSE(dialogo.enabled(FicheroLimite));
+        EXPECT_FALSE(dialogo.enabled(Buscar));
+        dialogo.press(IDCANCEL);
+    });
+}
 
 TEST_F(VectoresPendienteDlg, OkLeavesEverythingInTheRecord) {
     const auto resultado = Abre([](kit::Dialog& dialogo) {
@@ -647,6 +687,10 @@ TEST_F(VectoresPendienteDlg, F1AndTheHelpButtonOpenItsPage) {
         CompruebaAyuda(dialogo, {Valor1, Cadena1, Limite, Buscar}, 151299);
         dialogo.press(IDCANCEL);
     });
+}
+
+TEST_F(VectoresPendienteDlg, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<CVectoresPendienteDlg>(data, plantilla);
 }
 
 TEST_F(VectoresPendienteDlg, HelpOfADerivedClassIsTheOneThatOpens) {

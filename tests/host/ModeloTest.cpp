@@ -20,6 +20,32 @@ static_assert(!std::is_polymorphic_v<CDataCambiosPendiente>);
 static_assert(!std::is_polymorphic_v<CDataCurvado>);
 static_assert(!std::is_polymorphic_v<CDataVectoresPendiente>);
 
+/// These fields are of type `Tipo`.
+template <class Tipo, class... Campos>
+constexpr bool Son = (std::is_same_v<Campos, Tipo> && ...);
+
+static_assert(
+    Son<int, decltype(CDataVectoresPendiente::m_TextoEntero),
+        decltype(CDataVectoresPendiente::m_Limite), decltype(CDataCambiosPendiente::m_EnteroCambio),
+        decltype(CDataCambiosPendiente::m_GenerarDibujo1),
+        decltype(CDataCambiosPendiente::m_GenerarDibujo2),
+        decltype(CDataCurvado::m_AvanzadoPorEscala), decltype(CDataCurvado::m_TextoCurvas),
+        decltype(CDataCurvado::m_Limite), decltype(CDataCurvado::m_OpcionSuavizado),
+        decltype(CDataCurvado::m_Opcion1), decltype(CDataCurvado::m_RespetarCurvas),
+        decltype(CDataCurvado::m_RangoCota), decltype(CDataCurvado::m_OpcionTexto),
+        decltype(CDataCurvado::m_TextoEntero), decltype(CDataCurvado::m_NivelSuavizado),
+        decltype(CDataCurvado::m_TipoSuavizado)>);
+static_assert(Son<unsigned int, decltype(CDataCurvado::m_Escala)>);
+static_assert(
+    Son<double, decltype(CDataVectoresPendiente::m_ValorVector1),
+        decltype(CDataVectoresPendiente::m_ValorVector2),
+        decltype(CDataVectoresPendiente::m_TextoValor1),
+        decltype(CDataCambiosPendiente::m_ValorCambio), decltype(CDataCurvado::m_ValorAvanzado1),
+        decltype(CDataCurvado::m_ValorAvanzado2), decltype(CDataCurvado::m_TextoValor1),
+        decltype(CDataCurvado::m_Equidistancia), decltype(CDataCurvado::m_EquidistanciaMaestra),
+        decltype(CDataCurvado::m_TextoValor2), decltype(CDataCurvado::m_CotaMinima),
+        decltype(CDataCurvado::m_CotaMaxima)>);
+
 /// The record begins with the first of these fields, and each lies behind the one before it.
 void CompruebaOrden(const void* registro, const std::vector<const void*>& campos) {
     EXPECT_EQ(campos.front(), registro);

@@ -287,6 +287,10 @@ TEST_F(SuavizarTINDlg, F1AndTheHelpButtonOpenItsPage) {
     });
 }
 
+TEST_F(SuavizarTINDlg, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<CSuavizarTINDlg>(data);
+}
+
 TEST_F(SuavizarTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
     CompruebaAyudaDerivada<CSuavizarTINDlg>(data);
 }

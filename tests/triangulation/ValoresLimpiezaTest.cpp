@@ -146,6 +146,10 @@ TYPED_TEST(ValoresLimpieza, F1AndTheHelpButtonOpenTheSamePage) {
     });
 }
 
+TYPED_TEST(ValoresLimpieza, HelpExchangesNothing) {
+    CompruebaAyudaSinIntercambio<TypeParam>(this->data);
+}
+
 TYPED_TEST(ValoresLimpieza, HelpOfADerivedClassIsTheOneThatOpens) {
     CompruebaAyudaDerivada<TypeParam>(this->data);
 }

@@ -8,9 +8,9 @@ namespace Cotana {
 struct CDataCambiosPendiente {
     /// Decimals of the labels.
     int m_EnteroCambio = 1;
-    /// Code of the lines of both drawings.
+    /// Code of the lines of either drawing.
     CString m_CadenaCambio;
-    /// The least change of slope that is drawn, in percent.
+    /// The smallest change of slope that is drawn, in percent.
     double m_ValorCambio = 10;
     /// Whether the convex changes (ridges) are drawn.
     int m_GenerarDibujo1 = 1;

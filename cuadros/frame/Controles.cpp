@@ -3,8 +3,16 @@
 namespace Cuadros {
 
 void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> controles) {
-    for (const int control : controles)
-        dialogo.GetDlgItem(control)->EnableWindow(habilitados);
+    for (const int numero : controles) {
+        CWnd* const control = dialogo.GetDlgItem(numero);
+        // As of an edit whose text was just refused: disabled with the focus, it would leave the
+        // keyboard to nobody.
+        if (!habilitados && control == CWnd::GetFocus()) {
+            constexpr WPARAM anterior = TRUE;
+            dialogo.SendMessage(WM_NEXTDLGCTL, anterior);
+        }
+        control->EnableWindow(habilitados);
+    }
 }
 
 void Muestra(CWnd& dialogo, int como, std::initializer_list<int> controles) {

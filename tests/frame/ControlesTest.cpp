@@ -65,6 +65,31 @@ TEST(Controles, FollowACheckBoxWhoseFlagIsAnyNumber) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
+TEST(Controles, PassTheFocusOnBeforeTheyAreDisabled) {
+    CDialogoPrueba dialogo([](CDialogoPrueba&) {});
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        Cuadros::Habilita(prueba, FALSE, {IDC_PRUEBA_TEXTO, IDC_PRUEBA_OTRO_TEXTO});
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        for (const int control : {IDC_PRUEBA_TEXTO, IDC_PRUEBA_OTRO_TEXTO}) {
+            vista.focusOn(control);
+            vista.command(IDOK);
+            EXPECT_FALSE(vista.enabled(control));
+            EXPECT_NE(vista.focus(), 0);
+            EXPECT_TRUE(vista.enabled(vista.focus())) << vista.focus();
+            EnableWindow(vista.control(IDC_PRUEBA_TEXTO), TRUE);
+            EnableWindow(vista.control(IDC_PRUEBA_OTRO_TEXTO), TRUE);
+        }
+        // Enabled ones keep it.
+        vista.focusOn(IDC_PRUEBA_CASILLA);
+        vista.command(IDOK);
+        EXPECT_EQ(vista.focus(), IDC_PRUEBA_CASILLA);
+        kit::keyboard::press(VK_ESCAPE);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
 TEST(Controles, AreHiddenAndShownTogether) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         Cuadros::Muestra(prueba, SW_HIDE, {IDC_PRUEBA_FILA_QUITA, IDC_PRUEBA_TEXTO});

@@ -126,6 +126,20 @@ TEST_F(SuavizarTINDlg, BadNumberOfTimesLeavesTheFlagUnread) {
     }
 }
 
+TEST_F(SuavizarTINDlg, RefusedNumberThatIsThenDisabledLeavesTheKeyboardAlive) {
+    data.m_Iterar = FALSE;
+    const auto resultado = Abre({AFX_IDP_PARSE_UINT}, [](kit::Dialog& dialogo) {
+        // The host enables the number of times although nothing is repeated.
+        EnableWindow(dialogo.control(Iteraciones), TRUE);
+        dialogo.type(Iteraciones, L"many");
+        dialogo.click(Iterar);
+        EXPECT_FALSE(dialogo.enabled(Iteraciones));
+        EXPECT_EQ(dialogo.focus(), Iterar);
+        kit::keyboard::press(VK_ESCAPE);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
 TEST_F(SuavizarTINDlg, CorrectedNumberOfTimesReadsTheFlagWithOk) {
     const auto resultado = Abre({AFX_IDP_PARSE_UINT}, [&](kit::Dialog& dialogo) {
         dialogo.type(Iteraciones, L"");

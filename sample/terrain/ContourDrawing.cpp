@@ -12,6 +12,7 @@
 namespace {
 
 constexpr size_t MostLabels = 100'000;
+constexpr int MostDecimals = 6;
 constexpr double FigureWidth = 0.8; ///< Of its height.
 /// How much of its own length a line under a label gets on.
 constexpr double Straight = 0.97;
@@ -117,6 +118,16 @@ std::optional<ContourLabel> PlaceIn(const Path& path, double from, double to, do
     return {};
 }
 
+/// An elevation as a label has it.
+std::string LabelText(double elevation, int leastDecimals) {
+    std::string text = Decimal(elevation, MostDecimals);
+    const size_t point = text.find('.');
+    text.resize(std::max(text.find_last_not_of('0'), point + leastDecimals) + 1);
+    if (text.ends_with('.'))
+        text.pop_back();
+    return text;
+}
+
 } // namespace
 
 ContourDrawing::ContourDrawing(const ElevationGrid& grid)
@@ -136,7 +147,7 @@ CString LabelContours(const ContourLabelStyle& style, ContourDrawing& drawing) {
         return L"the height and the spacing of labels have to be above 0";
 
     const auto textOf = [&](const Contour& contour) {
-        return Decimal(contour.level.elevation, std::clamp(style.decimals, 0, 6));
+        return LabelText(contour.level.elevation, std::clamp(style.decimals, 0, MostDecimals));
     };
     const auto widthOf = [&](const std::string& text) {
         return FigureWidth * height * static_cast<double>(text.size());

@@ -19,9 +19,11 @@ struct ContourLayers {
 
 /// How contours are labelled with their elevations. Lengths are those on paper.
 struct ContourLabelStyle {
-    double height = 2;       ///< Of a figure, mm, above 0.
-    double spacing = 100;    ///< Between two labels of a line, along it, mm, above 0.
-    int decimals = 0;        ///< Of the elevations: what is outside of 0 to 6 is brought there.
+    double height = 2;    ///< Of a figure, mm, above 0.
+    double spacing = 100; ///< Between two labels of a line, along it, mm, above 0.
+    /// Of the elevations, at least: 162.5 has one all the same. What is outside of 0 to 6 is
+    /// brought there; more than 6 there are never.
+    int decimals = 0;
     bool mastersOnly = true; ///< Master contours alone have labels.
 };
 
@@ -60,5 +62,6 @@ struct ContourDrawing {
 /// too short has none.
 ///
 /// @return empty; else one line that says why the drawing has no labels: the height or the spacing
-///         is not above 0, or there would be more than 100,000.
+///         is not above 0, or there would be more than 100,000. They are untouched then.
+/// Throws std::bad_alloc when they do not fit into memory.
 CString LabelContours(const ContourLabelStyle& style, ContourDrawing& drawing);

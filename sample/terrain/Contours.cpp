@@ -38,7 +38,8 @@ bool FindMultiples(double interval, const ElevationRange& bounds, std::vector<do
         return false;
     for (double step = 0; step < count; ++step) {
         const double multiple = Rounded((first + step) * interval);
-        if (multiple >= bounds.low && multiple <= bounds.high)
+        const bool isNew = multiples.empty() || multiple > multiples.back();
+        if (isNew && multiple >= bounds.low && multiple <= bounds.high)
             multiples.push_back(multiple);
     }
     return true;

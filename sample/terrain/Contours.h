@@ -38,7 +38,8 @@ struct Contour {
 
 /// Finds the levels: every multiple of the interval and every multiple of the master interval
 /// that lies within the span and the range, bounds included. A level is the number that a person
-/// would write, rounded to 12 digits: of 0.1 m it is 0.3, not 0.30000000000000004.
+/// would write, rounded to 12 digits: of 0.1 m it is 0.3, not 0.30000000000000004. So at 4000 m the
+/// finest interval is 0.00000001 m; multiples of a finer one that are equal then are one level.
 ///
 /// @param span   lowest and highest elevation of the terrain.
 /// @param levels holds them afterwards, the lowest first, each once.

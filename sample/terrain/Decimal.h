@@ -7,3 +7,7 @@
 /// @param value    below 1e15 in size.
 /// @param decimals 0 to 17.
 std::string Decimal(double value, int decimals);
+
+/// The same with more decimals, up to 17, where its first four digits need them: a small size does
+/// not become zero.
+std::string FineDecimal(double value, int decimals);

@@ -20,6 +20,12 @@ struct Layer {
     Colour colour;
 };
 
+Colour ColourOf(const Contour& contour) {
+    if (contour.depression)
+        return contour.level.master ? Blue : DarkBlue;
+    return contour.level.master ? Orange : Brown;
+}
+
 /// The drawing's layers; of those of one name the first. Layer 0 is in every file.
 std::vector<Layer> LayersOf(const ContourLayers& layers) {
     std::vector<Layer> all = {{"0", BlackOrWhite}};
@@ -39,7 +45,8 @@ std::vector<Layer> LayersOf(const ContourLayers& layers) {
 /// The file as it is built: groups of a code and a value, each on a line of its own.
 class Writer {
 public:
-    Writer(OutputFile& file, const ContourDrawing& drawing) : m_File(file), m_Drawing(drawing) {}
+    Writer(OutputFile& file, const ContourDrawing& drawing)
+        : m_File(file), m_Drawing(drawing), m_Layers(LayersOf(drawing.layers)) {}
 
     void Write() {
         Header();
@@ -132,9 +139,8 @@ private:
         Group(40, "0.0");
         Group(0, "ENDTAB");
 
-        const std::vector<Layer> layers = LayersOf(m_Drawing.layers);
-        Table("LAYER", layers.size());
-        for (const Layer& layer : layers) {
+        Table("LAYER", m_Layers.size());
+        for (const Layer& layer : m_Layers) {
             Group(0, "LAYER");
             Group(2, layer.name);
             Group(70, 0);
@@ -158,10 +164,17 @@ private:
         Group(0, "ENDSEC");
     }
 
+    /// A colour of its own has only what lies on a layer of another: the layers stay the user's.
+    void LayerAndColour(const std::string& layer, Colour colour) {
+        Group(8, layer);
+        if (std::ranges::find(m_Layers, layer, &Layer::name)->colour != colour)
+            Group(62, colour);
+    }
+
     void Polyline(const Contour& contour) {
         const std::string layer = DxfLayerName(m_Drawing.Layer(contour));
         Group(0, "POLYLINE");
-        Group(8, layer);
+        LayerAndColour(layer, ColourOf(contour));
         Group(66, 1); // vertices follow
         Place({}, contour.level.elevation);
         Group(70, contour.closed ? 1 : 0);
@@ -176,9 +189,9 @@ private:
 
     void Text(const ContourLabel& label, const std::string& layer) {
         Group(0, "TEXT");
-        Group(8, layer);
+        LayerAndColour(layer, BlackOrWhite);
         Place(label.middle, label.elevation);
-        Length(40, m_Drawing.labelHeight);
+        Group(40, FineDecimal(m_Drawing.labelHeight, m_Drawing.decimals));
         Group(1, label.text);
         Group(50, Decimal(label.angle, 2));
         Group(72, 1); // the middle of the text, across and
@@ -188,6 +201,7 @@ private:
 
     OutputFile& m_File;
     const ContourDrawing& m_Drawing;
+    const std::vector<Layer> m_Layers;
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "sample/terrain/SvgFile.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -55,8 +57,10 @@ public:
     Writer(OutputFile& file, const ContourDrawing& drawing) : m_File(file), m_Drawing(drawing) {}
 
     void Write() {
-        const double width = m_Drawing.northEast.x - m_Drawing.southWest.x;
-        const double height = m_Drawing.northEast.y - m_Drawing.southWest.y;
+        // Programs refuse a drawing without any width or height.
+        const double least = std::pow(10, -m_Drawing.decimals);
+        const double width = std::max(m_Drawing.northEast.x - m_Drawing.southWest.x, least);
+        const double height = std::max(m_Drawing.northEast.y - m_Drawing.southWest.y, least);
         m_File << R"(<?xml version="1.0" encoding="UTF-8"?>)"
                   "\n"
                << R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" << Paper(width)
@@ -76,9 +80,11 @@ public:
 
 private:
     std::string Length(double metres) const { return Decimal(metres, m_Drawing.decimals); }
-    std::string Paper(double metres) const { return Decimal(metres * 1000 / m_Drawing.scale, 3); }
+    std::string Paper(double metres) const {
+        return FineDecimal(metres * 1000 / m_Drawing.scale, 3);
+    }
     std::string Width(double paper) const {
-        return Decimal(m_Drawing.Ground(paper), m_Drawing.decimals + 2);
+        return FineDecimal(m_Drawing.Ground(paper), m_Drawing.decimals + 2);
     }
     std::string X(const MapPoint& point) const { return Length(point.x - m_Drawing.southWest.x); }
     std::string Y(const MapPoint& point) const { return Length(m_Drawing.northEast.y - point.y); }
@@ -120,16 +126,16 @@ private:
         const double height = m_Drawing.labelHeight;
         const int decimals = m_Drawing.decimals + 2;
         m_File << R"(<g id="labels" font-family="sans-serif" font-size=")"
-               << Decimal(height / 0.72, decimals)
+               << FineDecimal(height / 0.72, decimals)
                << R"(" text-anchor="middle" fill="#5a3210" stroke="#fffefa" stroke-width=")"
-               << Decimal(height / 2, decimals)
+               << FineDecimal(height / 2, decimals)
                << R"(" stroke-linejoin="round" paint-order="stroke">)"
                   "\n<title>"
                << Escaped(m_Drawing.layers.labels) << "</title>\n";
         for (const ContourLabel& label : m_Drawing.labels) {
             m_File << "<text transform=\"translate(" << X(label.middle) << " " << Y(label.middle)
                    << ") rotate(" << Decimal(-label.angle, 2) << ")\" y=\""
-                   << Decimal(height / 2, decimals) << "\">" << label.text << "</text>\n";
+                   << FineDecimal(height / 2, decimals) << "\">" << label.text << "</text>\n";
         }
         m_File << "</g>\n";
     }

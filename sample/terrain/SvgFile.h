@@ -10,4 +10,5 @@
 ///
 /// @return empty when the file was written; else one line that names it and says what went wrong:
 ///         "hills.svg: the disk is full". What stood there before is untouched then.
+/// Throws std::bad_alloc when there is not enough memory to write it.
 CString WriteSvgFile(const CString& file, const ContourDrawing& drawing);

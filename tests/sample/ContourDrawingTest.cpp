@@ -158,6 +158,24 @@ TEST(ContourDrawing, DecimalsOfLabelsAreBroughtIntoTheirRange) {
     EXPECT_EQ(Labels(drawing, {2, 100, 100, true})[0].text, "250.000000");
 }
 
+TEST(ContourDrawing, LabelsHaveTheDecimalsThatTheirElevationNeeds) {
+    const struct {
+        double elevation;
+        int decimals;
+        const char* text;
+    } cases[] = {{162.5, 0, "162.5"},         {162.5, 2, "162.50"}, {1.0 / 3, 0, "0.333333"},
+                 {-0.25, 1, "-0.25"},         {0, 0, "0"},          {0, 2, "0.00"},
+                 {1000, 0, "1000"},           {100.5, 1, "100.5"},  {-1e-9, 0, "0"},
+                 {12.3456789, 2, "12.345679"}};
+    for (const auto& one : cases) {
+        ContourDrawing drawing = DrawingOf({{0, 0}, {100, 0}});
+        drawing.contours[0].level.elevation = one.elevation;
+        const auto labels = Labels(drawing, {2, 100, one.decimals, true});
+        ASSERT_EQ(labels.size(), 1u) << one.text;
+        EXPECT_EQ(labels[0].text, one.text);
+    }
+}
+
 TEST(ContourDrawing, LabelsWithoutSizeOrWithoutEndAreRefused) {
     ContourDrawing drawing = DrawingOf({{0, 0}, {1000, 0}});
     drawing.labels = {{}};
@@ -181,4 +199,13 @@ TEST(ContourDrawing, NumbersAreWrittenAlikeInEveryCountry) {
     EXPECT_EQ(Decimal(-0.0004, 3), "0.000");
     EXPECT_EQ(Decimal(-0.4, 0), "0");
     EXPECT_EQ(Decimal(-10, 0), "-10");
+}
+
+TEST(ContourDrawing, FineNumbersKeepFourDigits) {
+    EXPECT_EQ(FineDecimal(200, 3), "200.000");
+    EXPECT_EQ(FineDecimal(2, 3), "2.000");
+    EXPECT_EQ(FineDecimal(0.2, 0), "0.2000");
+    EXPECT_EQ(FineDecimal(-2.5e-10, 3), "-0.0000000002500");
+    EXPECT_EQ(FineDecimal(0, 3), "0.000");
+    EXPECT_EQ(FineDecimal(1e-300, 3), "0.00000000000000000");
 }

@@ -136,6 +136,13 @@ TEST(ContourLevels, ARangeIncludesItsBounds) {
     EXPECT_EQ(Found(span, {50, 100, ElevationRange{300, 200}}), Levels{});
 }
 
+TEST(ContourLevels, OfTooFineAnIntervalAreEachOnce) {
+    const Levels levels = Found({4000, 4000.0000001}, {1e-10, 1e-9, {}});
+    EXPECT_EQ(levels.size(), 11u);
+    for (size_t index = 1; index < levels.size(); ++index)
+        EXPECT_LT(levels[index - 1].elevation, levels[index].elevation);
+}
+
 TEST(ContourLevels, ThereMayBeTenThousand) {
     EXPECT_EQ(Found({1, 10000}, {1, 100000, {}}).size(), 10000u);
     EXPECT_EQ(

@@ -189,6 +189,78 @@ TEST(DxfFile, LayersOfOneNameAreOne) {
     }
 }
 
+TEST(DxfFile, WhatSharesALayerHasAColourOfItsOwn) {
+    ContourDrawing drawing = SmallDrawing();
+    drawing.contours.push_back(drawing.contours[2]);
+    drawing.contours[3].level.master = true;
+    const auto colours = [&] {
+        std::vector<std::string> found;
+        for (const Item& item : Written(drawing)) {
+            if (item.name == "POLYLINE" || item.name == "TEXT")
+                found.push_back(item.groups.contains(62) ? item.Text(62) : "by layer");
+        }
+        return found;
+    };
+    EXPECT_EQ(colours(), std::vector<std::string>(5, "by layer"));
+    std::vector<std::string> own;
+    for (const auto& [name, colour] : Layers(Written(drawing)))
+        own.push_back(std::to_string(colour));
+    own[0] = "by layer"; // the first contour's: the layer has its colour
+    own.erase(own.begin() + 1);
+    drawing.layers = {L"C", L"C", L"c", L"C", L"C"};
+    EXPECT_EQ(colours(), own);
+}
+
+TEST(DxfFile, ALabelsHeightIsNeverZero) {
+    ContourDrawing drawing = SmallDrawing();
+    drawing.decimals = 0; // of large cells
+    drawing.labelHeight = 0.0002;
+    for (const Item& item : Written(drawing)) {
+        if (item.name == "TEXT") {
+            EXPECT_EQ(item.Number(40), 0.0002);
+        }
+    }
+}
+
+TEST(DxfFile, HeaderHasTheBoundsOfAllThatIsDrawn) {
+    const Item header = Written(SmallDrawing()).front();
+    const auto bounds = [&](int code) {
+        std::vector<std::string> values;
+        for (auto [one, end] = header.groups.equal_range(code); one != end; ++one)
+            values.push_back(one->second);
+        return values;
+    };
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(bounds(9), (Texts{"$ACADVER", "$EXTMIN", "$EXTMAX"}));
+    EXPECT_EQ(bounds(10), (Texts{"437200.000", "437300.000"}));
+    EXPECT_EQ(bounds(20), (Texts{"4486300.000", "4486380.000"}));
+    EXPECT_EQ(bounds(30), (Texts{"-2.500000", "12.300000"}));
+}
+
+TEST(DxfFile, TablesHaveALineTypeForTheLayersAndATextStyle) {
+    std::vector<std::string> tables;
+    int layers = 0, types = 0, styles = 0;
+    for (const Item& item : Written(SmallDrawing())) {
+        if (item.name == "TABLE") {
+            tables.push_back(item.Text(2));
+        } else if (item.name == "LTYPE") {
+            ++types;
+            EXPECT_EQ(item.Text(2), "CONTINUOUS");
+        } else if (item.name == "LAYER") {
+            ++layers;
+            EXPECT_EQ(item.Text(6), "CONTINUOUS");
+        } else if (item.name == "STYLE") {
+            ++styles;
+            EXPECT_EQ(item.Text(2), "STANDARD");
+            EXPECT_EQ(item.Number(40), 0) << "texts have heights of their own";
+        }
+    }
+    EXPECT_EQ(tables, (std::vector<std::string>{"VPORT", "LTYPE", "LAYER", "STYLE"}));
+    EXPECT_EQ(types, 1);
+    EXPECT_EQ(layers, 6);
+    EXPECT_EQ(styles, 1);
+}
+
 TEST(DxfFile, ALayersNameIsMadeWhatReleaseTwelveAllows) {
     const struct {
         const wchar_t* name;

@@ -103,8 +103,38 @@ TEST(SvgFile, NumbersAreNeverInPowersOfTen) {
     EXPECT_EQ(First(svg, "viewBox=\"([^\"]*)\""), "0 0 1190.000 890.000");
 }
 
+TEST(SvgFile, NoSizeIsZero) {
+    const ElevationGrid smallest(2, 1e-6, {437200, 4486300}, {1, 2, 3, 4});
+    const ElevationGrid row(3, 10, {437200, 4486300}, {1, 2, 3});
+    for (const ElevationGrid& grid : {smallest, row}) {
+        for (const unsigned scale : {1u, 4'000'000'000u}) {
+            ContourDrawing drawing(grid);
+            drawing.scale = scale;
+            drawing.labels = {{drawing.southWest, 0, 1, "1"}};
+            drawing.labelHeight = drawing.Ground(0.00002);
+            const std::string svg = Written(drawing);
+            for (const char* pattern : {"viewBox=\"0 0 ([^ ]*)", "viewBox=\"0 0 [^ ]* ([^\"]*)",
+                                        "<svg[^>]* width=\"([^\"]*)mm\"",
+                                        "<svg[^>]* height=\"([^\"]*)mm\"", "font-size=\"([^\"]*)\"",
+                                        "stroke-width=\"([^\"]*)\"", "<text[^>]* y=\"([^\"]*)\""})
+                EXPECT_NE(First(svg, pattern).find_first_of("123456789"), std::string::npos)
+                    << pattern;
+        }
+    }
+}
+
+TEST(SvgFile, ASmallPaperIsAsExactAsALargeOne) {
+    ContourDrawing drawing = SmallDrawing();
+    drawing.scale = 4'000'000'000;
+    const std::string svg = Written(drawing);
+    EXPECT_EQ(First(svg, "<svg[^>]* width=\"([^\"]*)\""), "0.00002500mm");
+    EXPECT_EQ(First(svg, "<svg[^>]* height=\"([^\"]*)\""), "0.00002000mm");
+}
+
 TEST(SvgFile, AnEmptyDrawingIsAFile) {
-    EXPECT_TRUE(Written(ContourDrawing()).ends_with("</svg>\n"));
+    const std::string svg = Written(ContourDrawing());
+    EXPECT_TRUE(svg.ends_with("</svg>\n"));
+    EXPECT_EQ(First(svg, "viewBox=\"([^\"]*)\""), "0 0 0.001 0.001");
 }
 
 TEST(SvgFile, WhatCannotBeWrittenIsRefusedByName) {

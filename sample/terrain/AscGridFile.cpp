@@ -22,6 +22,8 @@ constexpr double DefaultNoData = -9999;
 /// What lies further from zero, in metres, is no place and no elevation, but a wrong marker of
 /// missing values or another file.
 constexpr double Furthest = 1e9;
+/// Of smaller cells, in metres, coordinates as maps have them cannot be told from each other.
+constexpr double SmallestCell = 1e-6;
 
 /// Gives the next bytes of a file, as InputFile::Read does.
 using ReadBlock = std::function<size_t(char* bytes, size_t size)>;
@@ -118,6 +120,11 @@ std::optional<double> Number(std::string_view word) {
     return number;
 }
 
+/// "nan", as several programs mark what is missing.
+bool IsNan(std::string_view word) {
+    return std::isnan(Number(word).value_or(0));
+}
+
 /// A finite number; `name` is what it is called.
 double FiniteNumber(std::string_view word, const std::wstring& name) {
     const std::optional<double> number = Number(word);
@@ -141,8 +148,8 @@ int Dimension(std::string_view word, const std::wstring& name) {
     const auto [last, error] = std::from_chars(word.data(), end, number);
     if (last != end || error == std::errc::invalid_argument)
         throw Fault{name + L" is not a whole number: " + Shown(word)};
-    if (word[0] == '-' || (error == std::errc() && number < 1))
-        throw Fault{name + L" is not above 0: " + Shown(word)};
+    if (word[0] == '-' || (error == std::errc() && number < 2))
+        throw Fault{name + L" is below 2: " + Shown(word)};
     if (error != std::errc() || number > MostElevations)
         throw Fault{name + L" is above " + std::to_wstring(MostElevations) + L": " + Shown(word)};
     return number;
@@ -204,11 +211,11 @@ struct Header {
             break;
         case CellSize:
             cellSize = NearNumber(word, name);
-            if (cellSize <= 0)
-                throw Fault{name + L" is not above 0: " + Shown(word)};
+            if (cellSize < SmallestCell)
+                throw Fault{name + L" is below 0.000001: " + Shown(word)};
             break;
         default:
-            noData = FiniteNumber(word, name);
+            noData = IsNan(word) ? ElevationGrid::Missing : FiniteNumber(word, name);
         }
     }
 
@@ -220,7 +227,7 @@ struct Header {
 };
 
 bool IsNumberLike(std::string_view word) {
-    return std::string_view("+-.0123456789").find(word[0]) != std::string_view::npos;
+    return std::string_view("+-.0123456789").find(word[0]) != std::string_view::npos || IsNan(word);
 }
 
 /// Reads up to the first elevation, which is then the last word.
@@ -264,12 +271,15 @@ std::vector<double> ReadElevations(Words& words, const Header& header) {
     };
 
     std::vector<double> elevations;
-    elevations.reserve(count); // Takes memory only as it is filled: a header may promise too much.
+    // At once, up to 800 MB, even if the header promises too much: growing takes more than twice
+    // as much while it copies.
+    elevations.reserve(count);
     for (size_t index = 0; index < count; ++index) {
         if (index > 0 && !words.Advance())
             throw Fault{L"the file ends before " + place(index) + L", of " + size()};
         const std::optional<double> number = Number(words.Word());
-        if (number == header.noData)
+        if (number == header.noData ||
+            (std::isnan(header.noData) && std::isnan(number.value_or(0))))
             elevations.push_back(ElevationGrid::Missing);
         else if (number && std::abs(*number) <= Furthest)
             elevations.push_back(*number);

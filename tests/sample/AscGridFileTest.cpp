@@ -63,19 +63,20 @@ TEST(AscGridFile, ACornerIsHalfACellOffTheCentre) {
     };
     for (const auto& one : cases) {
         ElevationGrid grid;
-        EXPECT_EQ(Refused(std::string("ncols 1 nrows 1 cellsize 10 ") + one.keys + " 7", grid), "");
-        EXPECT_EQ(grid.At(0, 0), one.origin) << one.keys;
+        EXPECT_EQ(
+            Refused(std::string("ncols 2 nrows 2 cellsize 10 ") + one.keys + " 7 7 7 7", grid), "");
+        EXPECT_EQ(grid.At(0, 1), one.origin) << one.keys;
     }
 }
 
 TEST(AscGridFile, TheHeaderIsInAnyOrderAndCase) {
     ElevationGrid grid;
-    EXPECT_EQ(Refused("CELLSIZE 2.5e1\r\nNoData_Value 0\r\nYLLCENTER -2E2\r\n\r\nNRows 1\r\n"
-                      "\tNCOLS\t2 \r\nXllCenter +1.5\r\n0 8\r\n",
+    EXPECT_EQ(Refused("CELLSIZE 2.5e1\r\nNoData_Value 0\r\nYLLCENTER -2E2\r\n\r\nNRows 2\r\n"
+                      "\tNCOLS\t2 \r\nXllCenter +1.5\r\n0 8\r\n0 8\r\n",
                       grid),
               "");
     EXPECT_EQ(grid.CellSize(), 25);
-    EXPECT_EQ(grid.At(0, 0), (MapPoint{1.5, -200}));
+    EXPECT_EQ(grid.At(0, 1), (MapPoint{1.5, -200}));
     EXPECT_TRUE(std::isnan(grid.Elevation(0, 0)));
     EXPECT_EQ(grid.Elevation(1, 0), 8);
 }
@@ -97,6 +98,22 @@ TEST(AscGridFile, AMarkerMayBeTheLeastOfAllNumbers) {
               "");
     EXPECT_TRUE(std::isnan(grid.Elevation(0, 0)));
     EXPECT_EQ(grid.Elevation(2, 1), -9999);
+}
+
+TEST(AscGridFile, AMarkerMayBeNoNumber) {
+    ElevationGrid grid;
+    EXPECT_EQ(Refused(header + "NODATA_value nan\nNaN 2 3 4 -nan -9999", grid), "");
+    EXPECT_TRUE(std::isnan(grid.Elevation(0, 0)));
+    EXPECT_TRUE(std::isnan(grid.Elevation(1, 1)));
+    EXPECT_EQ(grid.Lowest(), -9999);
+    EXPECT_EQ(grid.Highest(), 4);
+}
+
+TEST(AscGridFile, CellsMayBeAsSmallAsCoordinatesCanTell) {
+    ElevationGrid grid;
+    EXPECT_EQ(Refused("ncols 2 nrows 2 xllcorner 0 yllcorner 0 cellsize 1e-6 1 2 3 4", grid), "");
+    EXPECT_EQ(grid.CellSize(), 1e-6);
+    EXPECT_EQ(Refused("ncols 2 nrows 2 xllcorner 0 yllcorner 0 cellsize 1e9 1 2 3 4", grid), "");
 }
 
 TEST(AscGridFile, LinesAreNoMoreThanBlanks) {
@@ -148,20 +165,27 @@ TEST(AscGridFile, NamesTheLineAndWhatIsWrong) {
         {with("ncols", "# hills"), "hills.asc(1): the header key is unknown: #"},
         {with("ncols", "ncols nrows 2"), "hills.asc(1): ncols is not a whole number: nrows"},
         {with("ncols", "ncols 3.5"), "hills.asc(1): ncols is not a whole number: 3.5"},
-        {with("ncols", "ncols 0"), "hills.asc(1): ncols is not above 0: 0"},
-        {with("nrows", "nrows -2"), "hills.asc(2): nrows is not above 0: -2"},
+        {with("ncols", "ncols 1"), "hills.asc(1): ncols is below 2: 1"},
+        {with("nrows", "nrows -2"), "hills.asc(2): nrows is below 2: -2"},
         {with("nrows", "nrows 100000001"), "hills.asc(2): nrows is above 100000000: 100000001"},
         {with("nrows", "nrows 99999999999"), "hills.asc(2): nrows is above 100000000: 99999999999"},
-        {with("nrows", "nrows -99999999999"), "hills.asc(2): nrows is not above 0: -99999999999"},
+        {with("nrows", "nrows -99999999999"), "hills.asc(2): nrows is below 2: -99999999999"},
         {with("nrows", "nrows 33333334"),
          "hills.asc(6): the grid has more than 100000000 elevations: 33333334 rows of 3"},
-        {with("cellsize", "cellsize 0"), "hills.asc(5): cellsize is not above 0: 0"},
-        {with("cellsize", "cellsize -1"), "hills.asc(5): cellsize is not above 0: -1"},
+        {with("cellsize", "cellsize 0"), "hills.asc(5): cellsize is below 0.000001: 0"},
+        {with("cellsize", "cellsize 9e-7"), "hills.asc(5): cellsize is below 0.000001: 9e-7"},
+        {with("cellsize", "cellsize -1"), "hills.asc(5): cellsize is below 0.000001: -1"},
+        {with("cellsize", "cellsize 1.1e9"), "hills.asc(5): cellsize is beyond 1000000000: 1.1e9"},
+        {with("cellsize", "dx 10"), "hills.asc(5): the header key is unknown: dx"},
         {with("cellsize", "cellsize ten"), "hills.asc(5): cellsize is not a number: ten"},
         {with("cellsize", "cellsize inf"), "hills.asc(5): cellsize is not a finite number: inf"},
         {with("xll", "xllcorner 1e10"), "hills.asc(3): xllcorner is beyond 1000000000: 1e10"},
         {with("yll", "yllcenter\n-1e10"), "hills.asc(5): yllcenter is beyond 1000000000: -1e10"},
-        {header + "NODATA_value nan", "hills.asc(6): nodata_value is not a finite number: nan"},
+        {header + "NODATA_value inf", "hills.asc(6): nodata_value is not a finite number: inf"},
+        {header + "NODATA_value nan\n1 inf",
+         "hills.asc(7): the elevation in row 1, column 2 is not a finite number: inf"},
+        {header + "nan 2 3",
+         "hills.asc(6): the elevation in row 1, column 1 is not a finite number: nan"},
         {header + "1 2 x", "hills.asc(6): the elevation in row 1, column 3 is not a number: x"},
         {header + "1 2 3\n4,5 6",
          "hills.asc(7): the elevation in row 2, column 1 is not a number: 4,5"},

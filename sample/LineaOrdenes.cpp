@@ -29,11 +29,13 @@ LineaOrdenes LeeLineaOrdenes(std::span<const wchar_t* const> argumentos) {
     for (size_t i = 0; i < argumentos.size(); ++i) {
         const CString palabra = argumentos[i];
         if (const Opcion* const opcion = Busca(palabra)) {
-            if (++i == argumentos.size()) {
+            if (++i == argumentos.size() || *argumentos[i] == L'\0') {
                 linea.error = palabra + L" wants " + opcion->pide;
                 break;
             }
             linea.*opcion->destino = argumentos[i];
+        } else if (palabra.IsEmpty()) {
+            linea.error = L"the name of the code table is empty";
         } else if (palabra.Left(1) == L"-") {
             linea.error = L"unknown option " + palabra;
         } else if (!linea.ficheroCodigos.IsEmpty()) {

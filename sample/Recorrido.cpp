@@ -1,6 +1,9 @@
 #include "sample/Recorrido.h"
 
+#include <afxcmn.h>
+
 #include "sample/Conversacion.h"
+#include "sample/EjemploIds.h"
 #include "sample/LanzadorDlg.h"
 #include "sample/Pagina.h"
 #include "sample/Rutas.h"
@@ -26,14 +29,34 @@ void PreparaKit() {
         [](MSG& mensaje) { return AfxGetApp()->PreTranslateMessage(&mensaje) != FALSE; });
 }
 
-/// Where the host's own window is shown: nothing is opened from it.
+/// Chooses a conversation in the launcher's tree.
+void Elige(const kit::Dialog& lanzador, const wchar_t* subsistema, const wchar_t* titulo) {
+    auto& arbol =
+        *static_cast<CTreeCtrl*>(CWnd::FromHandle(lanzador.control(IDC_LANZADOR_CONVERSACIONES)));
+    const auto busca = [&arbol](HTREEITEM primero, const wchar_t* texto) {
+        HTREEITEM item = primero;
+        while (item && arbol.GetItemText(item) != texto)
+            item = arbol.GetNextSiblingItem(item);
+        return item;
+    };
+    const HTREEITEM raiz = busca(arbol.GetRootItem(), subsistema);
+    arbol.SelectItem(raiz ? busca(arbol.GetChildItem(raiz), titulo) : nullptr);
+}
+
+/// The host's own window, and the contours opened from it: accepted, they are drawn.
 Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
     Visita visita(carpeta, L"Lanzador");
     visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {
         visita.Fotografia(dialogo.handle(),
                           L"The sample host: the conversations, and the record of the chosen one.");
+        Elige(dialogo, L"Contours and slopes", L"Contour options");
+        dialogo.press(IDC_LANZADOR_ABRIR);
+        if (dialogo.text(IDC_LANZADOR_RESULTADO).find(L" drawn") == std::wstring::npos)
+            kit::fail("the launcher does not say what was drawn");
+        visita.Fotografia(dialogo.handle(), L"The contour options were accepted as they were.");
         dialogo.press(IDCANCEL);
     });
+    visita.Guion().onDialog([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
     CLanzadorDlg lanzador(terreno);
     visita.Guion().run([&lanzador] { return lanzador.DoModal(); });
     Parada parada;

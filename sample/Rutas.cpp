@@ -22,8 +22,10 @@ CString HazCarpeta(const CString& carpeta, CString& completa) {
     const DWORD largo =
         GetFullPathNameW(carpeta.IsEmpty() ? L"." : carpeta.GetString(), MAX_PATH, ruta, nullptr);
     const bool cabe = largo != 0 && largo < MAX_PATH;
-    const int hecha = cabe ? SHCreateDirectoryExW(nullptr, ruta, nullptr) : ERROR_BAD_PATHNAME;
-    if (hecha != ERROR_SUCCESS && hecha != ERROR_ALREADY_EXISTS && hecha != ERROR_FILE_EXISTS)
+    if (cabe)
+        SHCreateDirectoryExW(nullptr, ruta, nullptr);
+    const DWORD hay = cabe ? GetFileAttributesW(ruta) : INVALID_FILE_ATTRIBUTES;
+    if (hay == INVALID_FILE_ATTRIBUTES || !(hay & FILE_ATTRIBUTE_DIRECTORY))
         return carpeta + L": the folder cannot be made";
     completa = ruta;
     return {};

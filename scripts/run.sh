@@ -2,8 +2,10 @@
 # Builds and runs the sample host. With a display its window opens; without one, or with
 # --tour, every conversation is opened, driven and confirmed, and a page shows them.
 #
-#   scripts/run.sh [--tour] [--grid ASC-FILE] [CODE-TABLE-FILE]
+#   scripts/run.sh [--tour] [--grid ASC-FILE] [--drawings FOLDER] [CODE-TABLE-FILE]
 set -euo pipefail
+# Names are meant as their user sees them, whatever folder the scripts work in.
+[ -n "${CUADROS_LOCKED:-}" ] || export CUADROS_CALLER=$PWD
 # shellcheck source=setup.sh
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 
@@ -12,6 +14,8 @@ arguments=()
 for argument in "$@"; do
   if [ "$argument" = --tour ]; then
     display=
+  elif [ -n "$argument" ] && [ -e "$CUADROS_CALLER/$argument" ]; then
+    arguments+=("$CUADROS_CALLER/$argument")
   else
     arguments+=("$argument")
   fi

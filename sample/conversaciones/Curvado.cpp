@@ -55,20 +55,33 @@ Ficha FichaCurvado(const Terreno& terreno) {
     };
 }
 
+namespace {
+
+/// An elevation, a part of the way up from the model's lowest to its highest, as one reads them in
+/// the dialog.
+std::wstring CotaDelModelo(const kit::Dialog& dialogo, double parte) {
+    const double minima = _wtof(dialogo.text(IDC_CURVADO_COTA_MINIMA_MODELO).c_str());
+    const double maxima = _wtof(dialogo.text(IDC_CURVADO_COTA_MAXIMA_MODELO).c_str());
+    CString cota;
+    cota.Format(L"%.2f", minima + parte * (maxima - minima));
+    return cota.GetString();
+}
+
+} // namespace
+
 void ConduceCurvado(Visita& visita) {
     visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {
         visita.Fotografia(dialogo.handle(), L"As it opens: contours of the whole model.");
         dialogo.help();
         dialogo.press(IDC_CURVADO_CODIGOS);
-        dialogo.type(IDC_CURVADO_ESCALA, L"2000");
+        dialogo.type(IDC_CURVADO_ESCALA, L"4000");
         dialogo.press(IDC_CURVADO_AVANZADO);
 
         dialogo.check(IDC_CURVADO_RANGO_COTA);
-        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"400");
-        dialogo.type(IDC_CURVADO_COTA_MAXIMA, L"300");
+        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"1e6");
         dialogo.press(IDOK);
-        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"200");
-        dialogo.type(IDC_CURVADO_COTA_MAXIMA, L"400");
+        dialogo.type(IDC_CURVADO_COTA_MINIMA, CotaDelModelo(dialogo, 0.1));
+        dialogo.type(IDC_CURVADO_COTA_MAXIMA, CotaDelModelo(dialogo, 0.9));
 
         dialogo.check(IDC_CURVADO_TEXTO_CURVAS);
         dialogo.type(IDC_CURVADO_TEXTO_VALOR_2, L"150");
@@ -94,7 +107,8 @@ void ConduceCurvado(Visita& visita) {
         dialogo.press(IDOK);
     });
     visita.Guion().expectMessage().inspect([&visita](kit::MessageDialog& aviso) {
-        visita.Fotografia(aviso.handle(), L"The lowest elevation was above the highest.");
+        visita.Fotografia(aviso.handle(),
+                          L"The lowest elevation was above the highest, and above the model.");
     });
     RespondePregunta(visita, {L"hills.dxf"});
 }

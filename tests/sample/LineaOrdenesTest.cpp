@@ -43,6 +43,8 @@ TEST(LineaOrdenes, SaysWhatIsWrongAndHowItIsUsed) {
     const CString usage = L"; usage: Ejemplo [--tour FOLDER] [--grid ASC-FILE] "
                           L"[--drawings FOLDER] [CODE-TABLE-FILE]";
     EXPECT_EQ(Lee({L"--tour"}).error, L"--tour wants the folder for its results" + usage);
+    EXPECT_EQ(Lee({L"--grid", L""}).error, L"--grid wants an elevation grid" + usage);
+    EXPECT_EQ(Lee({L""}).error, L"the name of the code table is empty" + usage);
     EXPECT_EQ(Lee({L"--grid"}).error, L"--grid wants an elevation grid" + usage);
     EXPECT_EQ(Lee({L"codes.txt", L"--drawings"}).error,
               L"--drawings wants the folder for drawings" + usage);

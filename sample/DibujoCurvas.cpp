@@ -1,5 +1,7 @@
 #include "sample/DibujoCurvas.h"
 
+#include <new>
+
 #include "sample/terrain/ContourDrawing.h"
 #include "sample/terrain/Contours.h"
 #include "sample/terrain/DxfFile.h"
@@ -32,6 +34,7 @@ ContourLayers Capas(const Cotana::CDataCurvado& data) {
     return capas;
 }
 
+/// @return why there are no labels although they were asked for; else empty.
 CString Rotula(const Cotana::CDataCurvado& data, ContourDrawing& dibujo) {
     if (!data.m_TextoCurvas)
         return {};
@@ -42,32 +45,59 @@ CString Rotula(const Cotana::CDataCurvado& data, ContourDrawing& dibujo) {
                          dibujo);
 }
 
-CString Dibuja(const Terreno& terreno, ContourDrawing& dibujo) {
-    const Cotana::CDataCurvado& data = terreno.curvado;
-    CString error = TraceContours(terreno.modelo, Opciones(data), dibujo.contours);
-    if (error.IsEmpty())
-        error = Rotula(data, dibujo);
-    if (error.IsEmpty())
-        error = WriteDxfFile(terreno.carpetaDibujos + L"\\" + FicheroDxf, dibujo);
-    if (error.IsEmpty())
-        error = WriteSvgFile(terreno.carpetaDibujos + L"\\" + FicheroSvg, dibujo);
+CString Escribe(const CString& carpeta, const ContourDrawing& dibujo) {
+    CString error = WriteDxfFile(carpeta + L"\\" + FicheroDxf, dibujo);
+    if (!error.IsEmpty())
+        return error;
+    error = WriteSvgFile(carpeta + L"\\" + FicheroSvg, dibujo);
+    if (!error.IsEmpty())
+        error += CString(L"; ") + FicheroDxf + L" was written";
     return error;
+}
+
+/// What the record asks for and the drawing leaves out: ", without the boundary".
+CString SinHacer(const Cotana::CDataCurvado& data) {
+    CString lista;
+    const auto anade = [&](bool pedido, const wchar_t* nombre) {
+        if (pedido)
+            lista += (lista.IsEmpty() ? L", without " : L" and ") + CString(nombre);
+    };
+    anade(data.m_Limite != 0, L"the boundary");
+    anade(data.m_RespetarCurvas != 0, L"the contours to respect");
+    anade(data.m_TipoSuavizado > 0, L"the smoothing");
+    return lista;
+}
+
+Hecho Dibuja(const Terreno& terreno) {
+    const Cotana::CDataCurvado& data = terreno.curvado;
+    ContourDrawing dibujo(terreno.modelo);
+    dibujo.title = L"Contours";
+    dibujo.layers = Capas(data);
+    dibujo.scale = data.m_Escala;
+    CString error = TraceContours(terreno.modelo, Opciones(data), dibujo.contours);
+    if (!error.IsEmpty())
+        return {error, true, {}};
+    const CString sinRotulos = Rotula(data, dibujo);
+    error = Escribe(terreno.carpetaDibujos, dibujo);
+    if (!error.IsEmpty())
+        return {error, true, {}};
+
+    CString texto;
+    texto.Format(L"%d contours and %d labels drawn%s: %s and %s in %s.",
+                 static_cast<int>(dibujo.contours.size()), static_cast<int>(dibujo.labels.size()),
+                 SinHacer(data).GetString(), FicheroDxf, FicheroSvg,
+                 terreno.carpetaDibujos.GetString());
+    if (!sinRotulos.IsEmpty())
+        texto += L" No labels: " + sinRotulos + L".";
+    return {texto, false, FicheroSvg};
 }
 
 } // namespace
 
 Hecho DibujaCurvas(const Terreno& terreno) {
-    ContourDrawing dibujo(terreno.modelo);
-    dibujo.title = L"Contours";
-    dibujo.layers = Capas(terreno.curvado);
-    dibujo.scale = terreno.curvado.m_Escala;
-    const CString error = Dibuja(terreno, dibujo);
-    if (!error.IsEmpty())
-        return {error, true, {}};
-
-    CString texto;
-    texto.Format(L"%d contours and %d labels drawn: %s and %s in %s.",
-                 static_cast<int>(dibujo.contours.size()), static_cast<int>(dibujo.labels.size()),
-                 FicheroDxf, FicheroSvg, terreno.carpetaDibujos.GetString());
-    return {texto, false, FicheroSvg};
+    try {
+        return Dibuja(terreno);
+    } catch (const std::bad_alloc&) {
+        return {L"there is not enough memory for the drawing: choose a larger interval", true, {}};
+    }
 }

@@ -132,6 +132,19 @@ TEST_F(CurvadoDlgAbre, BadNumberAtBrowsingIsRefusedAndThenReplaced) {
     });
 }
 
+TEST_F(CurvadoDlgAbre, BadScaleAtBrowsingStillHandsOverTheTypedName) {
+    kit::app.cancelFilePrompt();
+    // At its key, and by Browse.
+    Abre({AFX_IDP_PARSE_UINT, AFX_IDP_PARSE_UINT}, [](kit::Dialog& dialogo) {
+        dialogo.type(Escala, L"k");
+        dialogo.type(FicheroLimite, L"typed.dxf");
+        dialogo.press(Buscar);
+        EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"typed.dxf");
+        EXPECT_EQ(dialogo.text(Escala), L"k");
+        dialogo.press(IDCANCEL);
+    });
+}
+
 TEST_F(CurvadoDlgAbre, RefusedExchangeStillAsksTheHost) {
     kit::app.answerFilePrompt(L"D:\\chosen.dxf");
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
@@ -189,16 +202,18 @@ TEST_F(CurvadoDlgAbre, OkOfAdvancedWritesItsThreeValuesAndNothingElse) {
     esperado.m_AvanzadoPorEscala = TRUE;
     esperado.m_ValorAvanzado1 = 0.04;
     esperado.m_ValorAvanzado2 = 0.2;
-    AbreAvanzado(PulsaAvanzado, [](kit::Dialog& avanzado) {
+    AbreAvanzado(PulsaAvanzado, [this, antes = Campos(data)](kit::Dialog& avanzado) {
         avanzado.click(PorEscala);
         avanzado.press(IDOK);
+        EXPECT_EQ(Campos(data), antes);
     });
     EXPECT_EQ(Campos(data), Campos(esperado));
 
     esperado.m_AvanzadoPorEscala = FALSE;
-    AbreAvanzado(PulsaAvanzado, [](kit::Dialog& avanzado) {
+    AbreAvanzado(PulsaAvanzado, [this, antes = Campos(data)](kit::Dialog& avanzado) {
         avanzado.click(PorEscala);
         avanzado.press(IDOK);
+        EXPECT_EQ(Campos(data), antes);
     });
     EXPECT_EQ(Campos(data), Campos(esperado));
 }
@@ -300,18 +315,21 @@ TEST_F(CurvadoDlgAbre, AdvancedIsModalOverTheContourOptions) {
         });
 }
 
-/// For its life the application has this main window.
-class VentanaPrincipal : public CWnd {
+/// A window of the host's, for its life.
+class Ventana : public CWnd {
 public:
-    VentanaPrincipal() {
+    Ventana() {
         EXPECT_TRUE(CreateEx(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 40, 900,
                              600, nullptr, nullptr));
-        kit::app.m_pMainWnd = this;
     }
-    ~VentanaPrincipal() override {
-        kit::app.m_pMainWnd = nullptr;
-        DestroyWindow();
-    }
+    ~Ventana() override { DestroyWindow(); }
+};
+
+/// For its life the application has this main window.
+class VentanaPrincipal : public Ventana {
+public:
+    VentanaPrincipal() { kit::app.m_pMainWnd = this; }
+    ~VentanaPrincipal() override { kit::app.m_pMainWnd = nullptr; }
 };
 
 TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheLastActiveWindowOfTheApplication) {
@@ -333,12 +351,10 @@ TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheLastActiveWindowOfTheApplication) {
 }
 
 // The contour options are not its parent: where they belong to another window, it still belongs to
-// the main one.
+// the main one, and does not disable them.
 TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheMainWindowWhereTheContourOptionsDoNot) {
     const VentanaPrincipal principal;
-    CWnd otra;
-    ASSERT_TRUE(otra.CreateEx(0, L"Static", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 80, 60, 900,
-                              600, nullptr, nullptr));
+    Ventana otra;
     auto dlg = Dialogo(&otra);
     HWND debajo = nullptr;
     AbreYAbre<Cotana::CCurvadoAvanzadoDlg>(
@@ -349,9 +365,9 @@ TEST_F(CurvadoDlgAbre, AdvancedBelongsToTheMainWindowWhereTheContourOptionsDoNot
         },
         [&](kit::Dialog& avanzado) {
             EXPECT_EQ(avanzado.owner(), principal.m_hWnd);
+            EXPECT_TRUE(IsWindowEnabled(debajo));
             avanzado.press(IDCANCEL);
         });
-    otra.DestroyWindow();
 }
 
 // The codes of the lines.
@@ -428,6 +444,24 @@ TEST_F(CurvadoDlgAbre, NothingIsExchangedAroundTheCodes) {
 TEST_F(CurvadoDlgAbre, CodesBelongToTheContourOptions) {
     HWND debajo = nullptr;
     AbreCodigos(
+        [&](kit::Dialog& dialogo) {
+            debajo = dialogo.handle();
+            PulsaCodigos(dialogo);
+        },
+        [&](kit::Dialog& codigos) {
+            EXPECT_EQ(codigos.owner(), debajo);
+            EXPECT_FALSE(IsWindowEnabled(debajo));
+            codigos.press(IDCANCEL);
+        });
+}
+
+TEST_F(CurvadoDlgAbre, CodesBelongToTheContourOptionsOfAnotherWindowThanTheMainOneToo) {
+    const VentanaPrincipal principal;
+    Ventana otra;
+    auto dlg = Dialogo(&otra);
+    HWND debajo = nullptr;
+    AbreYAbre<CCurvadoCodigosDlg>(
+        dlg,
         [&](kit::Dialog& dialogo) {
             debajo = dialogo.handle();
             PulsaCodigos(dialogo);

@@ -2,6 +2,7 @@
 // the other. The first thing that is wrong is said and the dialog waits, or it closes.
 #include "contours/Curvado.h"
 
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -55,13 +56,14 @@ protected:
 
 TEST_F(CurvadoDlgOk, LeavesEverythingInTheRecord) {
     const auto resultado = Abre([](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 1); // shows the record anew, with 15 digits
         dialogo.type(Escala, L"2500");
         dialogo.type(Equidistancia, L"0.5");
         dialogo.type(EquidistanciaMaestra, L"1e1");
         dialogo.type(TextoValor1, L"1.75");
         dialogo.type(TextoValor2, L"80");
         dialogo.type(TextoEntero, L"-2147483648");
-        dialogo.type(CotaMinima, L"-7.25");
+        dialogo.type(CotaMinima, L"-3.141592653589793");
         dialogo.type(CotaMaxima, L"333");
         dialogo.type(FicheroLimite, L"C:\\other.dxf");
         dialogo.type(NivelSuavizado, L"9");
@@ -69,7 +71,6 @@ TEST_F(CurvadoDlgOk, LeavesEverythingInTheRecord) {
         dialogo.type(CurvasARespetar2, L"");
         for (const int casilla : {OpcionTexto, RangoCota, OpcionSuavizado, Opcion1, RespetarCurvas})
             dialogo.click(casilla);
-        dialogo.choose(TipoSuavizado, 1);
         dialogo.press(IDOK);
     });
     EXPECT_EQ(resultado, IDOK);
@@ -96,7 +97,7 @@ TEST_F(CurvadoDlgOk, LeavesEverythingInTheRecord) {
     esperado.m_Equidistancia = 0.5;
     esperado.m_EquidistanciaMaestra = 10;
     esperado.m_TextoValor2 = 80;
-    esperado.m_CotaMinima = -7.25;
+    esperado.m_CotaMinima = -3.141592653589793;
     esperado.m_CotaMaxima = 333;
     esperado.m_TextoEntero = -2147483647 - 1;
     esperado.m_NivelSuavizado = 9;
@@ -124,6 +125,60 @@ TEST_F(CurvadoDlgOk, DisabledControlsStillComeBack) {
     EXPECT_EQ(data.m_TextoValor1, 3);
     EXPECT_EQ(data.m_FicheroLimite, L"typed");
     EXPECT_EQ(data.m_NivelSuavizado, 8);
+}
+
+TEST_F(CurvadoDlgOk, ReadsTheBoxesTheTextsTheScaleAndThenTheOtherNumbers) {
+    const std::vector<int> orden = {
+        TextoCurvas, Limite,        OpcionSuavizado,      Opcion1,          RespetarCurvas,
+        RangoCota,   OpcionTexto,   CurvasARespetar1,     CurvasARespetar2, FicheroLimite,
+        Escala,      Equidistancia, EquidistanciaMaestra, TextoValor2,      TextoValor1,
+        CotaMinima,  TextoEntero,   CotaMaxima,           NivelSuavizado};
+    std::vector<int> dosVeces = orden;
+    dosVeces.insert(dosVeces.end(), orden.begin(), orden.end());
+    Abre([&](kit::Dialog& dialogo) { EXPECT_EQ(LeidosPorOk(dialogo, orden), dosVeces); });
+}
+
+TEST_F(CurvadoDlgOk, TypeIsStoredAfterTheExchange) {
+    auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
+    desconfiado.rechazado = 7; // the first of OK
+    int tipoEntonces = -1;
+    desconfiado.alRechazar = [&] { tipoEntonces = data.m_TipoSuavizado; };
+    Abre(desconfiado, [](kit::Dialog& dialogo) {
+        dialogo.choose(TipoSuavizado, 1);
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(tipoEntonces, 2);
+    EXPECT_EQ(data.m_TipoSuavizado, 1);
+}
+
+TEST_F(CurvadoDlgOk, TakesWhatIsVeryLarge) {
+    data.m_TipoSuavizado = 1;
+    CDataCurvado esperado = data;
+    const std::wstring largo(400, L'n');
+    Acepta({{Escala, L"4294967295"},
+            {Equidistancia, L"1e299"},
+            {EquidistanciaMaestra, L"1e300"},
+            {TextoValor1, L"1e300"},
+            {TextoValor2, L"1e300"},
+            {TextoEntero, L"2147483647"},
+            {CotaMinima, L"-1e300"},
+            {CotaMaxima, L"1e300"},
+            {FicheroLimite, largo.c_str()},
+            {NivelSuavizado, L"2147483647"},
+            {CurvasARespetar1, largo.c_str()},
+            {CurvasARespetar2, largo.c_str()}});
+    esperado.m_Escala = 4294967295;
+    esperado.m_Equidistancia = 1e299;
+    for (const auto campo : {&CDataCurvado::m_EquidistanciaMaestra, &CDataCurvado::m_TextoValor1,
+                             &CDataCurvado::m_TextoValor2, &CDataCurvado::m_CotaMaxima})
+        esperado.*campo = 1e300;
+    esperado.m_CotaMinima = -1e300;
+    for (const auto campo : {&CDataCurvado::m_TextoEntero, &CDataCurvado::m_NivelSuavizado})
+        esperado.*campo = 2147483647;
+    for (const auto campo : {&CDataCurvado::m_FicheroLimite, &CDataCurvado::m_CurvasARespetar1,
+                             &CDataCurvado::m_CurvasARespetar2})
+        esperado.*campo = largo.c_str();
+    EXPECT_EQ(Campos(data), Campos(esperado));
 }
 
 // The checks, each with its limits.
@@ -219,6 +274,19 @@ TEST_F(CurvadoDlgOk, LevelIsCheckedForTheThirdTypeOfSmoothingOnly) {
         }
 }
 
+TEST_F(CurvadoDlgOk, LevelOfATypeThatTheListWasGivenIsNotChecked) {
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        const HWND lista = dialogo.control(TipoSuavizado);
+        SendMessageW(lista, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"Fourth"));
+        dialogo.choose(TipoSuavizado, 3);
+        dialogo.type(NivelSuavizado, L"0");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoSuavizado, 3);
+    EXPECT_EQ(data.m_NivelSuavizado, 0);
+}
+
 TEST_F(CurvadoDlgOk, LevelIsCheckedForTheTypeThatIsSelectedNow) {
     data.m_TipoSuavizado = 1;
     data.m_NivelSuavizado = 11;
@@ -250,9 +318,10 @@ TEST_F(CurvadoDlgOk, RangeOfElevationsOverlapsTheModelAndIsInOrder) {
         {L"400", L"500", true},      // touches it from above
         {L"100", L"149.999", false}, // just below it
         {L"400.001", L"500", false}, // just beyond it
-        {L"149.9", L"149.9", false}, {L"450", L"500", false},
-        {L"0", L"0", false},         {L"200", L"100", false}, // both overlap, in no order
-        {L"300", L"299.999", false}, {L"500", L"100", false},
+        {L"149.9", L"149.9", false},      {L"450", L"500", false}, {L"0", L"0", false},
+        {L"200", L"100", false},          // both overlap, in no order
+        {L"300", L"299.99999999", false}, // no tolerance here
+        {L"500", L"100", false},
     };
     for (const auto& caso : casos) {
         if (caso.vale)
@@ -440,6 +509,48 @@ TEST_F(CurvadoDlgOk, BadNumberIsRefusedTwice) {
             EXPECT_EQ(resultado, IDCANCEL);
             EXPECT_EQ(Campos(data), antes) << control << ' ' << kit::inQuotes(texto);
         }
+}
+
+TEST_F(CurvadoDlgOk, BadNumberInADisabledEditIsRefusedTwiceToo) {
+    // By the click, by the key in the scale, twice by OK, and by the click that enables the edit.
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL,
+                                 AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL},
+                                [](kit::Dialog& dialogo) {
+                                    dialogo.type(TextoValor1, L"many");
+                                    dialogo.click(TextoCurvas);
+                                    EXPECT_FALSE(dialogo.enabled(TextoValor1));
+                                    dialogo.append(Escala, L"0");
+                                    EXPECT_EQ(dialogo.focus(), Escala);
+                                    dialogo.command(IDOK);
+                                    EXPECT_EQ(dialogo.focus(), Escala);
+                                    EXPECT_EQ(dialogo.text(TextoValor1), L"many");
+                                    dialogo.click(TextoCurvas);
+                                    EXPECT_EQ(dialogo.focus(), TextoCurvas);
+                                    dialogo.type(TextoValor1, L"3");
+                                    dialogo.press(IDOK);
+                                });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TextoValor1, 3);
+}
+
+TEST_F(CurvadoDlgOk, NumberOfTheRecordThatIsNotFiniteIsRefusedUntilItIsTypedOver) {
+    for (const double numero : {HUGE_VAL, std::nan("")}) {
+        data.m_TextoValor2 = numero;
+        kit::Script guion;
+        // By each of the five exchanges of the opening.
+        for (int i = 0; i < 5; ++i)
+            guion.expectMessage(AfxGetAppName(), TextoDe(AFX_IDP_PARSE_REAL), MB_ICONEXCLAMATION)
+                .buttons(MB_OK);
+        guion.onDialog([](kit::Dialog& dialogo) {
+            dialogo.press(IDOK);
+            EXPECT_EQ(dialogo.focus(), TextoValor2);
+            dialogo.type(TextoValor2, L"100");
+            dialogo.press(IDOK);
+        });
+        EsperaAviso(guion, AFX_IDP_PARSE_REAL, 2); // by OK
+        EXPECT_EQ(guion.run([this] { return Dialogo().DoModal(); }), IDOK);
+        EXPECT_EQ(data.m_TextoValor2, 100);
+    }
 }
 
 TEST_F(CurvadoDlgOk, BadScaleIsRefusedAtItsKeyAndTwiceByOk) {

@@ -4,6 +4,7 @@
 #include "contours/Curvado.h"
 
 #include <algorithm>
+#include <climits>
 #include <list>
 #include <optional>
 #include <utility>
@@ -91,17 +92,30 @@ TEST_F(CurvadoDlg, HasItsSmallIconOnly) {
 
 TEST_F(CurvadoDlg, OpeningReadsBackWhatTheControlsShow) {
     data.m_Equidistancia = 0.1 + 0.2;
+    data.m_TextoCurvas = 3;
+    data.m_Limite = 2;
     data.m_Opcion1 = 7;
     data.m_RangoCota = -1;
     data.m_ValorAvanzado1 = 0.1 + 0.2; // shown by no control
+    data.m_AvanzadoPorEscala = 7;      // nor is this one
     Abre([this](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.text(Equidistancia), L"0.3");
         EXPECT_EQ(data.m_Equidistancia, 0.3);
-        // What a box of two states makes of a third one is the system's.
-        EXPECT_EQ(data.m_Opcion1, dialogo.checked(Opcion1));
-        EXPECT_EQ(data.m_RangoCota, dialogo.checked(RangoCota));
-        EXPECT_EQ(dialogo.enabled(CotaMinima), dialogo.checked(RangoCota));
+        const std::pair<int, int CDataCurvado::*> despejadas[] = {
+            {TextoCurvas, &CDataCurvado::m_TextoCurvas},
+            {Opcion1, &CDataCurvado::m_Opcion1},
+            {RangoCota, &CDataCurvado::m_RangoCota}};
+        for (const auto& [control, campo] : despejadas) {
+            EXPECT_FALSE(dialogo.checked(control)) << control;
+            EXPECT_EQ(data.*campo, 0) << control;
+        }
+        // The third state, which a box of two shows as its second.
+        EXPECT_TRUE(dialogo.checked(Limite));
+        EXPECT_EQ(data.m_Limite, 1);
+        EXPECT_EQ(Deshabilitados(dialogo), (Controles{TextoValor1, TextoValor2, TextoEntero,
+                                                      OpcionTexto, CotaMinima, CotaMaxima}));
         EXPECT_EQ(data.m_ValorAvanzado1, 0.1 + 0.2);
+        EXPECT_EQ(data.m_AvanzadoPorEscala, 7);
         dialogo.press(IDCANCEL);
     });
 }
@@ -365,6 +379,75 @@ TEST_F(CurvadoDlg, ClickCountsWhateverTheNumbersAre) {
         });
         data.*casilla.campo = TRUE;
     }
+}
+
+TEST_F(CurvadoDlg, ClicksCountWhateverTheScaleIs) {
+    CDataCurvado esperado = data;
+    esperado.m_OpcionSuavizado = FALSE;
+    esperado.m_Opcion1 = TRUE;
+    esperado.m_OpcionTexto = TRUE;
+    // At its key, and at each of the four clicks that exchange.
+    Abre({AFX_IDP_PARSE_UINT, AFX_IDP_PARSE_UINT, AFX_IDP_PARSE_UINT, AFX_IDP_PARSE_UINT,
+          AFX_IDP_PARSE_UINT},
+         [&](kit::Dialog& dialogo) {
+             dialogo.type(Escala, L"k");
+             for (const int control : {OpcionSuavizado, Opcion1, OpcionTexto})
+                 dialogo.click(control);
+             Controles deshabilitados;
+             for (const Casilla& casilla : Casillas) {
+                 dialogo.click(casilla.control);
+                 esperado.*casilla.campo = FALSE;
+                 EXPECT_EQ(Campos(data), Campos(esperado)) << casilla.control;
+                 Une(deshabilitados, casilla.dependientes);
+                 EXPECT_EQ(Deshabilitados(dialogo), deshabilitados) << casilla.control;
+                 EXPECT_EQ(dialogo.focus(), Escala);
+             }
+             dialogo.press(IDCANCEL);
+         });
+}
+
+TEST_F(CurvadoDlg, ClickTakesNumbersOfAnySizeAndLongTexts) {
+    const std::pair<int, double CDataCurvado::*> reales[] = {
+        {Equidistancia, &CDataCurvado::m_Equidistancia},
+        {EquidistanciaMaestra, &CDataCurvado::m_EquidistanciaMaestra},
+        {TextoValor1, &CDataCurvado::m_TextoValor1},
+        {TextoValor2, &CDataCurvado::m_TextoValor2},
+        {CotaMinima, &CDataCurvado::m_CotaMinima},
+        {CotaMaxima, &CDataCurvado::m_CotaMaxima}};
+    const std::pair<int, int CDataCurvado::*> enteros[] = {
+        {TextoEntero, &CDataCurvado::m_TextoEntero},
+        {NivelSuavizado, &CDataCurvado::m_NivelSuavizado}};
+    const std::pair<int, CString CDataCurvado::*> textos[] = {
+        {CurvasARespetar1, &CDataCurvado::m_CurvasARespetar1},
+        {CurvasARespetar2, &CDataCurvado::m_CurvasARespetar2},
+        {FicheroLimite, &CDataCurvado::m_FicheroLimite}};
+    const struct {
+        const wchar_t* tecleado;
+        double real;
+        int entero;
+        wchar_t letra;
+    } casos[] = {{L"1e300", 1e300, INT_MAX, L'n'}, {L"-1e300", -1e300, INT_MIN, L'm'}};
+    for (const auto& caso : casos)
+        Abre([&](kit::Dialog& dialogo) {
+            const std::wstring largo(400, caso.letra); // far more than an edit shows
+            dialogo.type(Escala, L"4294967295");
+            for (const auto& [control, campo] : reales)
+                dialogo.type(control, caso.tecleado);
+            for (const auto& [control, campo] : enteros)
+                dialogo.type(control, std::to_wstring(caso.entero));
+            for (const auto& [control, campo] : textos)
+                dialogo.type(control, largo);
+            dialogo.click(RangoCota);
+            EXPECT_EQ(data.m_Escala, 4294967295U);
+            for (const auto& [control, campo] : reales)
+                EXPECT_EQ(data.*campo, caso.real) << control;
+            for (const auto& [control, campo] : enteros)
+                EXPECT_EQ(data.*campo, caso.entero) << control;
+            for (const auto& [control, campo] : textos)
+                EXPECT_EQ(data.*campo, largo.c_str()) << control;
+            dialogo.click(RangoCota);
+            dialogo.press(IDCANCEL);
+        });
 }
 
 TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {

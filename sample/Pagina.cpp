@@ -1,9 +1,10 @@
 #include "sample/Pagina.h"
 
-#include <windows.h>
-
-#include <optional>
+#include <string>
 #include <string_view>
+
+#include "sample/OutputFile.h"
+#include "sample/TextFile.h"
 
 namespace {
 
@@ -85,30 +86,13 @@ std::string Base64(std::string_view bytes) {
     return texto;
 }
 
-std::optional<std::string> Lee(const CString& ruta) {
-    const HANDLE fichero = CreateFileW(ruta, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (fichero == INVALID_HANDLE_VALUE)
-        return std::nullopt;
-    std::string bytes(GetFileSize(fichero, nullptr), '\0');
-    DWORD leidos = 0;
-    const BOOL leido =
-        ReadFile(fichero, bytes.data(), static_cast<DWORD>(bytes.size()), &leidos, nullptr);
-    CloseHandle(fichero);
-    if (!leido || leidos != bytes.size())
-        return std::nullopt;
+std::string Lee(const CString& ruta) {
+    InputFile fichero(ruta);
+    std::string bytes;
+    char bloque[16 * 1024];
+    while (const size_t leidos = fichero.Read(bloque, sizeof bloque))
+        bytes.append(bloque, leidos);
     return bytes;
-}
-
-bool Guarda(const CString& ruta, std::string_view bytes) {
-    const HANDLE fichero =
-        CreateFileW(ruta, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (fichero == INVALID_HANDLE_VALUE)
-        return false;
-    DWORD escritos = 0;
-    const BOOL escrito =
-        WriteFile(fichero, bytes.data(), static_cast<DWORD>(bytes.size()), &escritos, nullptr);
-    return CloseHandle(fichero) && escrito && escritos == bytes.size();
 }
 
 std::string Tabla(const Parada& parada) {
@@ -124,39 +108,34 @@ std::string Tabla(const Parada& parada) {
 }
 
 /// @param tipo kind of the picture, as the web names it.
-bool AnadeImagen(std::string& html, const Parada& parada, const CString& ruta, const char* tipo,
-                 const CString& pie) {
-    const auto imagen = Lee(ruta);
-    if (!imagen)
-        return false;
-    html += "<figure><img alt=\"" + Html(parada.titulo) + "\" src=\"data:image/" + tipo +
-            ";base64," + Base64(*imagen) + "\"><figcaption>" + Html(pie) +
-            "</figcaption></figure>\n";
-    return true;
+std::string Imagen(const Parada& parada, const CString& ruta, const char* tipo,
+                   const CString& pie) {
+    return "<figure><img alt=\"" + Html(parada.titulo) + "\" src=\"data:image/" + tipo +
+           ";base64," + Base64(Lee(ruta)) + "\"><figcaption>" + Html(pie) +
+           "</figcaption></figure>\n";
 }
 
 } // namespace
 
 bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
-    std::string html(Cabecera);
-    for (const Parada& parada : paradas) {
-        html += "<h2>" + Html(parada.titulo);
-        if (!parada.subsistema.IsEmpty())
-            html += " <small>" + Html(parada.subsistema) + "</small>";
-        html += "</h2>\n";
-        for (const Visita::Foto& foto : parada.fotos) {
-            if (!AnadeImagen(html, parada, carpeta + L"\\" + foto.fichero, "png", foto.pie))
-                return false;
+    const auto escribe = [&](OutputFile& pagina) {
+        pagina << Cabecera;
+        for (const Parada& parada : paradas) {
+            pagina << "<h2>" << Html(parada.titulo);
+            if (!parada.subsistema.IsEmpty())
+                pagina << " <small>" << Html(parada.subsistema) << "</small>";
+            pagina << "</h2>\n";
+            for (const Visita::Foto& foto : parada.fotos)
+                pagina << Imagen(parada, carpeta + L"\\" + foto.fichero, "png", foto.pie);
+            if (!parada.dibujo.IsEmpty())
+                pagina << Imagen(parada, parada.dibujo, "svg+xml", parada.hecho);
+            if (!parada.antes.empty())
+                pagina << Tabla(parada);
+            for (const DWORD_PTR ayuda : parada.ayudas)
+                pagina << "<p class=\"soft\">F1 asked the host for help at context "
+                       << std::to_string(ayuda) << ".</p>\n";
         }
-        if (!parada.dibujo.IsEmpty() &&
-            !AnadeImagen(html, parada, parada.dibujo, "svg+xml", parada.hecho))
-            return false;
-        if (!parada.antes.empty())
-            html += Tabla(parada);
-        for (const DWORD_PTR ayuda : parada.ayudas)
-            html += "<p class=\"soft\">F1 asked the host for help at context " +
-                    std::to_string(ayuda) + ".</p>\n";
-    }
-    html += Cierre;
-    return Guarda(carpeta + L"\\index.html", html);
+        pagina << Cierre;
+    };
+    return WriteTextFile(carpeta + L"\\index.html", escribe).IsEmpty();
 }

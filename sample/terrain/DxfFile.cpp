@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "sample/OutputFile.h"
 #include "sample/terrain/Decimal.h"
-#include "sample/terrain/OutputFile.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 
 #include <windows.h>
 
+#include "sample/OutputFile.h"
 #include "sample/terrain/Decimal.h"
-#include "sample/terrain/OutputFile.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sample/terrain/OutputFile.h"
+#include "sample/OutputFile.h"
 
 #include <utility>
 

@@ -6,20 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "Refusals.h"
 #include "TemporaryFile.h"
-
-using kit::utf8;
 
 namespace {
 
-std::string Refused(std::string_view bytes, ElevationGrid& grid) {
-    return utf8(static_cast<LPCWSTR>(ParseAscGrid(L"hills.asc", bytes, grid)));
-}
-
-std::string Refused(std::string_view bytes) {
-    ElevationGrid grid;
-    return Refused(bytes, grid);
-}
+constexpr Refusals Refused(ParseAscGrid, L"hills.asc");
 
 /// The elevations of a grid in the order of the file.
 std::vector<double> Elevations(const ElevationGrid& grid) {

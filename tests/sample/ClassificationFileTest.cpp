@@ -5,19 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "Refusals.h"
+
 using Cotana::CInfoClasificacion;
-using kit::utf8;
 
 namespace {
 
-std::string Refused(std::string_view bytes, std::vector<CInfoClasificacion>& classifications) {
-    return utf8(static_cast<LPCWSTR>(ParseClassifications(L"cloud.txt", bytes, classifications)));
-}
-
-std::string Refused(std::string_view bytes) {
-    std::vector<CInfoClasificacion> classifications;
-    return Refused(bytes, classifications);
-}
+constexpr Refusals Refused(ParseClassifications, L"cloud.txt");
 
 } // namespace
 

@@ -4,22 +4,15 @@
 
 #include <string>
 
+#include "Refusals.h"
 #include "TemporaryFile.h"
 
 using Cotana::CDigiTab;
 using Cotana::CElementoDigiTab;
-using kit::utf8;
 
 namespace {
 
-std::string Refused(std::string_view bytes, CDigiTab& table) {
-    return utf8(static_cast<LPCWSTR>(ParseCodeTable(L"codes.txt", bytes, table)));
-}
-
-std::string Refused(std::string_view bytes) {
-    CDigiTab table;
-    return Refused(bytes, table);
-}
+constexpr Refusals Refused(ParseCodeTable, L"codes.txt");
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "sample/DibujoCurvas.h"
 
 #include <new>
+#include <vector>
 
 #include "sample/terrain/ContourDrawing.h"
 #include "sample/terrain/Contours.h"
@@ -57,14 +58,18 @@ CString Escribe(const CString& carpeta, const ContourDrawing& dibujo) {
 
 /// What the record asks for and the drawing leaves out: ", without the boundary".
 CString SinHacer(const Cotana::CDataCurvado& data) {
+    std::vector<CString> nombres;
+    if (data.m_Limite)
+        nombres.push_back(L"the boundary");
+    if (data.m_RespetarCurvas)
+        nombres.push_back(L"the contours to respect");
+    if (data.m_TipoSuavizado > 0)
+        nombres.push_back(L"the smoothing");
     CString lista;
-    const auto anade = [&](bool pedido, const wchar_t* nombre) {
-        if (pedido)
-            lista += (lista.IsEmpty() ? L", without " : L" and ") + CString(nombre);
-    };
-    anade(data.m_Limite != 0, L"the boundary");
-    anade(data.m_RespetarCurvas != 0, L"the contours to respect");
-    anade(data.m_TipoSuavizado > 0, L"the smoothing");
+    for (const CString& nombre : nombres) {
+        const bool ultimo = &nombre == &nombres.back();
+        lista += (lista.IsEmpty() ? L", without " : ultimo ? L" and " : L", ") + nombre;
+    }
     return lista;
 }
 

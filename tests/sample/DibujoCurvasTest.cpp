@@ -222,7 +222,7 @@ TEST_F(DibujoCurvas, WhatIsLeftOutIsSaid) {
     data.m_Limite = TRUE;
     dice(L"the boundary and the smoothing");
     data.m_RespetarCurvas = TRUE;
-    dice(L"the boundary and the contours to respect and the smoothing");
+    dice(L"the boundary, the contours to respect and the smoothing");
 }
 
 TEST_F(DibujoCurvas, LayerWithoutACodeHasANameAllTheSame) {

@@ -94,7 +94,7 @@ TEST(AscGridFile, AMarkerMayBeTheLeastOfAllNumbers) {
 
 TEST(AscGridFile, AMarkerMayBeNoNumber) {
     ElevationGrid grid;
-    EXPECT_EQ(Refused(header + "NODATA_value nan\nNaN 2 3 4 -nan -9999", grid), "");
+    ASSERT_EQ(Refused(header + "NODATA_value nan\nNaN 2 3 4 -nan -9999", grid), "");
     EXPECT_TRUE(std::isnan(grid.Elevation(0, 0)));
     EXPECT_TRUE(std::isnan(grid.Elevation(1, 1)));
     EXPECT_EQ(grid.Lowest(), -9999);

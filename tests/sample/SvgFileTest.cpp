@@ -105,20 +105,24 @@ TEST(SvgFile, NumbersAreNeverInPowersOfTen) {
 
 TEST(SvgFile, NoSizeIsZero) {
     const ElevationGrid smallest(2, 1e-6, {437200, 4486300}, {1, 2, 3, 4});
-    const ElevationGrid row(3, 10, {437200, 4486300}, {1, 2, 3});
+    const ElevationGrid row(3, 10000, {437200, 4486300}, {1, 2, 3});
     for (const ElevationGrid& grid : {smallest, row}) {
         for (const unsigned scale : {1u, 4'000'000'000u}) {
             ContourDrawing drawing(grid);
             drawing.scale = scale;
+            drawing.contours = SmallDrawing().contours;
             drawing.labels = {{drawing.southWest, 0, 1, "1"}};
             drawing.labelHeight = drawing.Ground(0.00002);
             const std::string svg = Written(drawing);
             for (const char* pattern : {"viewBox=\"0 0 ([^ ]*)", "viewBox=\"0 0 [^ ]* ([^\"]*)",
                                         "<svg[^>]* width=\"([^\"]*)mm\"",
                                         "<svg[^>]* height=\"([^\"]*)mm\"", "font-size=\"([^\"]*)\"",
-                                        "stroke-width=\"([^\"]*)\"", "<text[^>]* y=\"([^\"]*)\""})
-                EXPECT_NE(First(svg, pattern).find_first_of("123456789"), std::string::npos)
-                    << pattern;
+                                        "stroke-width=\"([^\"]*)\"", "<text[^>]* y=\"([^\"]*)\""}) {
+                const Texts sizes = All(svg, pattern);
+                EXPECT_FALSE(sizes.empty()) << pattern;
+                for (const std::string& size : sizes)
+                    EXPECT_NE(size.find_first_of("123456789"), size.npos) << pattern;
+            }
         }
     }
 }

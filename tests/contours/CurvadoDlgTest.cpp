@@ -450,6 +450,41 @@ TEST_F(CurvadoDlg, ClickTakesNumbersOfAnySizeAndLongTexts) {
         });
 }
 
+TEST_F(CurvadoDlg, RefusedNumberThatIsThenDisabledLeavesTheKeyboardAlive) {
+    const struct {
+        int control;
+        UINT aviso;
+        int casilla;
+    } casos[] = {{CotaMinima, AFX_IDP_PARSE_REAL, RangoCota},
+                 {CotaMaxima, AFX_IDP_PARSE_REAL, RangoCota},
+                 {TextoValor1, AFX_IDP_PARSE_REAL, TextoCurvas},
+                 {TextoValor2, AFX_IDP_PARSE_REAL, TextoCurvas},
+                 {TextoEntero, AFX_IDP_PARSE_INT, TextoCurvas}};
+    for (const auto& caso : casos) {
+        data.m_RangoCota = TRUE;
+        data.m_TextoCurvas = TRUE;
+        const auto resultado = Abre({caso.aviso}, [&](kit::Dialog& dialogo) {
+            dialogo.type(caso.control, L"low");
+            dialogo.click(caso.casilla);
+            EXPECT_FALSE(dialogo.enabled(caso.control));
+            EXPECT_EQ(dialogo.focus(), caso.casilla) << caso.control;
+            kit::keyboard::press(VK_ESCAPE);
+        });
+        EXPECT_EQ(resultado, IDCANCEL);
+    }
+}
+
+TEST_F(CurvadoDlg, RefusedLevelThatIsThenDisabledLeavesTheKeyboardAlive) {
+    const auto resultado = Abre({AFX_IDP_PARSE_INT}, [](kit::Dialog& dialogo) {
+        dialogo.type(NivelSuavizado, L"low");
+        dialogo.choose(TipoSuavizado, 0);
+        EXPECT_FALSE(dialogo.enabled(NivelSuavizado));
+        EXPECT_EQ(dialogo.focus(), TipoSuavizado);
+        kit::keyboard::press(VK_ESCAPE);
+    });
+    EXPECT_EQ(resultado, IDCANCEL);
+}
+
 TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {
     for (const Casilla& casilla : Casillas) {
         auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();

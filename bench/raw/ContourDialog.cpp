@@ -129,51 +129,47 @@ void ContourDialog::show() {
         showText(control, shown.GetString(), static_cast<std::size_t>(shown.GetLength()));
     };
     m_exchanging = true;
-    showNumber(m_interval, m_data.m_Equidistancia);
-    showNumber(m_masterInterval, m_data.m_EquidistanciaMaestra);
-    text(m_respected1, m_data.m_CurvasARespetar1);
-    text(m_respected2, m_data.m_CurvasARespetar2);
-    text(m_boundaryFile, m_data.m_FicheroLimite);
-    showNumber(m_scale, m_data.m_Escala);
     showCheck(m_labels, m_data.m_TextoCurvas);
-    showNumber(m_label2, m_data.m_TextoValor2);
-    showNumber(m_label1, m_data.m_TextoValor1);
-    showNumber(m_rangeLow, m_data.m_CotaMinima);
-    showNumber(m_decimals, m_data.m_TextoEntero);
-    showNumber(m_rangeHigh, m_data.m_CotaMaxima);
     showCheck(m_boundary, m_data.m_Limite);
     showCheck(m_smoothingOption, m_data.m_OpcionSuavizado);
     showCheck(m_option1, m_data.m_Opcion1);
     showCheck(m_respect, m_data.m_RespetarCurvas);
     showCheck(m_range, m_data.m_RangoCota);
     showCheck(m_mastersOnly, m_data.m_OpcionTexto);
+    text(m_respected1, m_data.m_CurvasARespetar1);
+    text(m_respected2, m_data.m_CurvasARespetar2);
+    text(m_boundaryFile, m_data.m_FicheroLimite);
+    showNumber(m_scale, m_data.m_Escala);
+    showNumber(m_interval, m_data.m_Equidistancia);
+    showNumber(m_masterInterval, m_data.m_EquidistanciaMaestra);
+    showNumber(m_label2, m_data.m_TextoValor2);
+    showNumber(m_label1, m_data.m_TextoValor1);
+    showNumber(m_rangeLow, m_data.m_CotaMinima);
+    showNumber(m_decimals, m_data.m_TextoEntero);
+    showNumber(m_rangeHigh, m_data.m_CotaMaxima);
     showNumber(m_level, m_data.m_NivelSuavizado);
     m_exchanging = false;
 }
 
 bool ContourDialog::read() {
-    if (!readNumber(m_interval, m_data.m_Equidistancia) ||
-        !readNumber(m_masterInterval, m_data.m_EquidistanciaMaestra))
-        return false;
-    readText(m_respected1, m_data.m_CurvasARespetar1);
-    readText(m_respected2, m_data.m_CurvasARespetar2);
-    readText(m_boundaryFile, m_data.m_FicheroLimite);
-    if (!readNumber(m_scale, m_data.m_Escala))
-        return false;
     m_data.m_TextoCurvas = readCheck(m_labels);
-    if (!readNumber(m_label2, m_data.m_TextoValor2) ||
-        !readNumber(m_label1, m_data.m_TextoValor1) ||
-        !readNumber(m_rangeLow, m_data.m_CotaMinima) ||
-        !readNumber(m_decimals, m_data.m_TextoEntero) ||
-        !readNumber(m_rangeHigh, m_data.m_CotaMaxima))
-        return false;
     m_data.m_Limite = readCheck(m_boundary);
     m_data.m_OpcionSuavizado = readCheck(m_smoothingOption);
     m_data.m_Opcion1 = readCheck(m_option1);
     m_data.m_RespetarCurvas = readCheck(m_respect);
     m_data.m_RangoCota = readCheck(m_range);
     m_data.m_OpcionTexto = readCheck(m_mastersOnly);
-    return readNumber(m_level, m_data.m_NivelSuavizado);
+    readText(m_respected1, m_data.m_CurvasARespetar1);
+    readText(m_respected2, m_data.m_CurvasARespetar2);
+    readText(m_boundaryFile, m_data.m_FicheroLimite);
+    return readNumber(m_scale, m_data.m_Escala) && readNumber(m_interval, m_data.m_Equidistancia) &&
+           readNumber(m_masterInterval, m_data.m_EquidistanciaMaestra) &&
+           readNumber(m_label2, m_data.m_TextoValor2) &&
+           readNumber(m_label1, m_data.m_TextoValor1) &&
+           readNumber(m_rangeLow, m_data.m_CotaMinima) &&
+           readNumber(m_decimals, m_data.m_TextoEntero) &&
+           readNumber(m_rangeHigh, m_data.m_CotaMaxima) &&
+           readNumber(m_level, m_data.m_NivelSuavizado);
 }
 
 void ContourDialog::enable(int enabled, std::initializer_list<int> controls) {

@@ -12,13 +12,11 @@ set -euo pipefail
 display=${DISPLAY:-}
 arguments=()
 for argument in "$@"; do
-  if [ "$argument" = --tour ]; then
-    display=
-  elif [ -n "$argument" ] && [ -e "$CUADROS_CALLER/$argument" ]; then
-    arguments+=("$CUADROS_CALLER/$argument")
-  else
-    arguments+=("$argument")
-  fi
+  case $argument in
+    --tour) display= ;;
+    '' | -* | /*) arguments+=("$argument") ;;
+    *) arguments+=("$CUADROS_CALLER/$argument") ;;
+  esac
 done
 set -- ${arguments[@]+"${arguments[@]}"}
 

@@ -122,8 +122,10 @@ TEST_F(CurvadoDlgAbre, BadNumberAtBrowsingIsRefusedAndThenReplaced) {
     kit::app.answerFilePrompt(L"D:\\chosen.dxf");
     Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.type(CotaMinima, L"low");
+        dialogo.type(CotaMaxima, L"200"); // exchanged after it
         dialogo.type(FicheroLimite, L"typed.dxf");
         dialogo.press(Buscar);
+        EXPECT_EQ(dialogo.text(CotaMaxima), L"320.5");
         // What was typed is there for the prompt whatever the numbers are.
         EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"typed.dxf");
         EXPECT_EQ(dialogo.text(CotaMinima), L"180");

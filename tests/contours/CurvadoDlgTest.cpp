@@ -575,7 +575,9 @@ TEST_F(CurvadoDlg, ChoosingExchangesAndShowsTheRecordAgain) {
 TEST_F(CurvadoDlg, BadNumberAtChoosingIsRefusedAndThenReplaced) {
     Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.type(CotaMinima, L"low");
+        dialogo.type(CotaMaxima, L"200"); // exchanged after it
         dialogo.choose(TipoSuavizado, 0);
+        EXPECT_EQ(dialogo.text(CotaMaxima), L"320.5");
         EXPECT_EQ(data.m_CotaMinima, 180);
         EXPECT_EQ(dialogo.text(CotaMinima), L"180");
         EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 0);

@@ -317,8 +317,10 @@ TEST_F(VectoresPendienteDlg, BadNumberIsRefusedAtBrowsingAndThenReplaced) {
     kit::app.answerFilePrompt(L"chosen.dat");
     Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.type(TextoValor1, L"high");
+        dialogo.type(TextoEntero, L"5"); // exchanged after it
         dialogo.type(FicheroLimite, L"typed.dat");
         dialogo.press(Buscar);
+        EXPECT_EQ(dialogo.text(TextoEntero), L"2");
         // The host is asked all the same, with the name that was typed.
         EXPECT_EQ(kit::app.takeFilePrompts().at(0).nameBefore, L"typed.dat");
         EXPECT_EQ(dialogo.text(TextoValor1), L"1.8");

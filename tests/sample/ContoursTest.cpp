@@ -483,8 +483,9 @@ TEST(Contours, OfTheSamplesTerrainAreWithinItsSpan) {
     EXPECT_EQ(rings, 35);
     EXPECT_EQ(depressions, 4); // the hollow in the valley, and one more
 
-    // At the pass between the two hills, one line becomes two.
     const auto within = Traced(grid, {5, 25, ElevationRange{300, 320}});
+    EXPECT_EQ(within.front().level.elevation, 300);
+    EXPECT_EQ(within.back().level.elevation, 320);
     for (const Contour& contour : within) {
         EXPECT_GE(contour.level.elevation, 300);
         EXPECT_LE(contour.level.elevation, 320);

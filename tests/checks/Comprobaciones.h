@@ -21,15 +21,6 @@ inline CString TextoDe(UINT numero) {
     return texto;
 }
 
-/// Expects next the framework's own prompt with this text, `veces` times.
-inline void EsperaAviso(kit::Script& guion, UINT numero, int veces = 1,
-                        kit::Where donde = kit::Where::current()) {
-    for (int i = 0; i < veces; ++i)
-        guion.expectMessage(AfxGetAppName(), TextoDe(numero), MB_ICONEXCLAMATION, donde)
-            .buttons(MB_OK)
-            .ownedByDialog();
-}
-
 /// The dialog has this group icon as its small one, and no big one.
 inline void CompruebaIcono(const kit::Dialog& dialogo, UINT numero) {
     const auto nombre = MAKEINTRESOURCEW(numero);
@@ -40,6 +31,30 @@ inline void CompruebaIcono(const kit::Dialog& dialogo, UINT numero) {
     };
     EXPECT_EQ(icono(ICON_SMALL), propio);
     EXPECT_EQ(icono(ICON_BIG), nullptr);
+}
+
+/// From this dialog the host was asked once for files that exist: with the name `antes`, with these
+/// options, over the dialog's own member that keeps the host's template.
+///
+/// @return the text that the host was given to change.
+inline const CString* CompruebaPregunta(const kit::Dialog& dialogo, const kit::Text& antes,
+                                        DWORD opciones, CDocTemplate** plantilla,
+                                        kit::Where donde = kit::Where::current()) {
+    const testing::ScopedTrace traza(donde.file_name(), static_cast<int>(donde.line()), "asked");
+    const auto preguntas = kit::app.takeFilePrompts();
+    EXPECT_EQ(preguntas.size(), 1U);
+    if (preguntas.empty())
+        return nullptr;
+    const kit::FilePrompt& pregunta = preguntas.front();
+    EXPECT_EQ(pregunta.nameBefore, antes);
+    EXPECT_EQ(pregunta.title, 61440U);
+    EXPECT_EQ(pregunta.flags, opciones);
+    EXPECT_EQ(pregunta.open, 1);
+    EXPECT_EQ(pregunta.documentTemplate, plantilla);
+    EXPECT_EQ(pregunta.kind, 0);
+    EXPECT_EQ(pregunta.reserved, nullptr);
+    EXPECT_EQ(pregunta.active, dialogo.handle());
+    return pregunta.name;
 }
 
 /// A conversation that opens in the middle of the owner that it is given.

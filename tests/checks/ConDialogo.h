@@ -3,25 +3,53 @@
 #pragma once
 
 #include "checks/Comprobaciones.h"
-#include "cuadros/resources/StringIds.h"
 
 #include <functional>
 #include <initializer_list>
 #include <list>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
-static_assert(IDS_TITULO_MENSAJES == 15105);
 static_assert(ID_HELP == 57670);
+
+/// The text that is the title of the dialogs' messages.
+constexpr UINT TituloMensajes = 15105;
+
+/// A message box that comes meanwhile: title, text and icon.
+struct Mensaje {
+    /// Of the dialog, or of the framework's own prompts, by its text's number.
+    Mensaje(UINT numero) : Mensaje(TextoDe(numero), numero >= AFX_IDP_PARSE_INT) {}
+    /// Of the framework, with this text.
+    static Mensaje DelMarco(const CString& texto) { return {texto, true}; }
+    Mensaje(CString tituloSuyo, CString textoSuyo, UINT iconoSuyo)
+        : titulo(std::move(tituloSuyo)), texto(std::move(textoSuyo)), icono(iconoSuyo) {}
+
+    CString titulo;
+    CString texto;
+    UINT icono;
+
+private:
+    Mensaje(const CString& texto, bool delMarco)
+        : Mensaje(delMarco ? CString(AfxGetAppName()) : TextoDe(TituloMensajes), texto,
+                  delMarco ? MB_ICONEXCLAMATION : MB_ICONERROR) {}
+};
+
+/// Expects it next, with OK as its only answer.
+inline void Espera(kit::Script& guion, const Mensaje& mensaje,
+                   kit::Where donde = kit::Where::current()) {
+    guion.expectMessage(mensaje.titulo, mensaje.texto, mensaje.icono, donde)
+        .buttons(MB_OK)
+        .ownedByDialog();
+}
 
 /// A test of one dialog, which the test's class opens over its own values.
 class ConDialogo : public testing::Test {
 protected:
     using Paso = std::function<void(kit::Dialog&)>;
-    /// Refusals that come one after the other: numbers of the dialog's messages, or of the
-    /// framework's own prompts.
-    using Mensajes = std::initializer_list<UINT>;
+    /// Refusals that come one after the other.
+    using Mensajes = std::initializer_list<Mensaje>;
 
     /// Runs the dialog over the test's values.
     virtual INT_PTR Ejecuta(CWnd* padre) = 0;
@@ -64,16 +92,8 @@ private:
                            const Paso& paso, kit::Where donde) {
         kit::Script guion;
         guion.onDialog(paso, donde);
-        for (const UINT mensaje : mensajes) {
-            if (mensaje >= AFX_IDP_PARSE_INT)
-                EsperaAviso(guion, mensaje, 1, donde);
-            else
-                guion
-                    .expectMessage(TextoDe(IDS_TITULO_MENSAJES), TextoDe(mensaje), MB_ICONERROR,
-                                   donde)
-                    .buttons(MB_OK)
-                    .ownedByDialog();
-        }
+        for (const Mensaje& mensaje : mensajes)
+            Espera(guion, mensaje, donde);
         return guion.run(conversacion, donde);
     }
 };

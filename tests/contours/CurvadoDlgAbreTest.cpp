@@ -68,19 +68,10 @@ TEST_F(CurvadoDlgAbre, BrowsingAsksTheHostForAFileThatExists) {
         derivado.Intercambios();
         dialogo.press(Buscar);
         EXPECT_EQ(derivado.Intercambios(), "SM");
-        const auto preguntas = kit::app.takeFilePrompts();
-        ASSERT_EQ(preguntas.size(), 1U);
-        EXPECT_EQ(preguntas[0].name, &data.m_FicheroLimite);
-        EXPECT_EQ(preguntas[0].nameBefore, L"C:\\typed.dxf");
-        EXPECT_EQ(preguntas[0].title, 61440U);
-        EXPECT_EQ(preguntas[0].flags, 0x1004U);
-        EXPECT_EQ(preguntas[0].open, 1);
-        // The dialog's own member, which holds the host's template.
-        EXPECT_EQ(preguntas[0].documentTemplate, &derivado.m_pPlantilla);
+        // The record's own text, into which what was typed came first.
+        EXPECT_EQ(CompruebaPregunta(dialogo, L"C:\\typed.dxf", 0x1004, &derivado.m_pPlantilla),
+                  &data.m_FicheroLimite);
         EXPECT_EQ(derivado.m_pPlantilla, plantilla);
-        EXPECT_EQ(preguntas[0].kind, 0);
-        EXPECT_EQ(preguntas[0].reserved, nullptr);
-        EXPECT_EQ(preguntas[0].active, dialogo.handle());
         EXPECT_EQ(dialogo.text(FicheroLimite), L"D:\\chosen one.dxf");
         EXPECT_EQ(dialogo.text(Equidistancia), L"7.5");
         dialogo.press(IDCANCEL);
@@ -275,7 +266,7 @@ TEST_F(CurvadoDlgAbre, AdvancedHasTheScaleOfItsLastChangeThatWasANumber) {
         dialogo.append(Escala, L"k");
         PulsaAvanzado(dialogo);
     });
-    EsperaAviso(guion, AFX_IDP_PARSE_UINT);
+    Espera(guion, AFX_IDP_PARSE_UINT);
     guion.onDialog(kit::of<Cotana::CCurvadoAvanzadoDlg>(), [](kit::Dialog& avanzado) {
         EXPECT_EQ(avanzado.text(PorEscala), L"&Follow the scale (1:25)");
         avanzado.press(IDCANCEL);

@@ -547,7 +547,8 @@ TEST_F(CurvadoDlgOk, NumberOfTheRecordThatIsNotFiniteIsRefusedUntilItIsTypedOver
             dialogo.type(TextoValor2, L"100");
             dialogo.press(IDOK);
         });
-        EsperaAviso(guion, AFX_IDP_PARSE_REAL, 2); // by OK
+        for (int i = 0; i < 2; ++i) // by OK
+            Espera(guion, AFX_IDP_PARSE_REAL);
         EXPECT_EQ(guion.run([this] { return Dialogo().DoModal(); }), IDOK);
         EXPECT_EQ(data.m_TextoValor2, 100);
     }

@@ -80,7 +80,7 @@ TEST_F(CurvadoDlg, ShowsTheElevationsOfTheModelWithTwoDecimals) {
 }
 
 TEST_F(CurvadoDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaCentro([this](CWnd* duena) { return Dialogo(duena).DoModal(); });
+    CompruebaQueSeCentra();
 }
 
 TEST_F(CurvadoDlg, HasItsSmallIconOnly) {
@@ -822,13 +822,7 @@ TEST_F(CurvadoDlg, SpaceChangesACheckBox) {
 }
 
 TEST_F(CurvadoDlg, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
-                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
-                  kit::keyboard::press(VK_RETURN);
-              }),
-              IDOK);
-    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    CompruebaSalidas();
 }
 
 // Help.

@@ -5,6 +5,7 @@
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/StringIds.h"
 
 namespace {
 
@@ -253,20 +254,10 @@ TEST_F(VectoresPendienteDlg, AsksTheHostForAFileThatExists) {
     Abre(dlg, {}, [&](kit::Dialog& dialogo) {
         dialogo.type(FicheroLimite, L"typed.dat");
         dialogo.press(Buscar);
-        const auto preguntas = kit::app.takeFilePrompts();
-        ASSERT_EQ(preguntas.size(), 1U);
         // The record's own text, into which what was typed came first.
-        EXPECT_EQ(preguntas[0].name, &data.m_FicheroLimite);
-        EXPECT_EQ(preguntas[0].nameBefore, L"typed.dat");
-        EXPECT_EQ(preguntas[0].title, 61440U);
-        EXPECT_EQ(preguntas[0].flags, 0x1004U);
-        EXPECT_EQ(preguntas[0].open, 1);
-        // The dialog's own member, which holds the host's template.
-        EXPECT_EQ(preguntas[0].documentTemplate, &dlg.m_pPlantilla);
+        EXPECT_EQ(CompruebaPregunta(dialogo, L"typed.dat", 0x1004, &dlg.m_pPlantilla),
+                  &data.m_FicheroLimite);
         EXPECT_EQ(dlg.m_pPlantilla, plantilla);
-        EXPECT_EQ(preguntas[0].kind, 0);
-        EXPECT_EQ(preguntas[0].reserved, nullptr);
-        EXPECT_EQ(preguntas[0].active, dialogo.handle());
         EXPECT_EQ(dialogo.text(FicheroLimite), L"C:\\two words\\edge.dat");
         EXPECT_EQ(data.m_FicheroLimite, L"C:\\two words\\edge.dat");
         dialogo.press(IDCANCEL);

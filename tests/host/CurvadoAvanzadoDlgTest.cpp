@@ -5,10 +5,9 @@
 
 #include <cotana/dialogos_dibujo/DialogosDibujoIds.h>
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 
 #include <filesystem>
-#include <functional>
 #include <string>
 
 namespace {
@@ -21,29 +20,10 @@ constexpr int Valor2 = IDC_CURVADO_AVANZADO_VALOR_2;
 
 static_assert(IDD_CURVADO_AVANZADO == 23101);
 
-class CurvadoAvanzadoDlg : public testing::Test {
+class CurvadoAvanzadoDlg : public ConDialogo {
 protected:
-    using Paso = std::function<void(kit::Dialog&)>;
-
-    INT_PTR Ejecuta(CWnd* padre = nullptr) {
+    INT_PTR Ejecuta(CWnd* padre) override {
         return CCurvadoAvanzadoDlg(escala, valor1, valor2, porEscala, padre).DoModal();
-    }
-
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        return guion.run([this] { return Ejecuta(); }, donde);
-    }
-
-    /// The same; the framework's prompt with this text comes meanwhile, once.
-    INT_PTR AbreConAviso(const CString& texto, const Paso& paso,
-                         kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        guion.expectMessage(AfxGetAppName(), texto, MB_ICONEXCLAMATION, donde)
-            .buttons(MB_OK)
-            .ownedByDialog();
-        return guion.run([this] { return Ejecuta(); }, donde);
     }
 
     void CompruebaVariables(double esperado1, double esperado2, int esperadoPorEscala) {
@@ -107,7 +87,7 @@ TEST_F(CurvadoAvanzadoDlg, BoxNamesTheScale) {
 }
 
 TEST_F(CurvadoAvanzadoDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaCentro([this](CWnd* duena) { return Ejecuta(duena); });
+    CompruebaQueSeCentra();
 }
 
 // The box.
@@ -199,14 +179,15 @@ TEST_F(CurvadoAvanzadoDlg, ValuesOutsideTheirRangeAreRefused) {
     AfxFormatString2(fueraDeRango, AFX_IDP_PARSE_REAL_RANGE, L"0", L"1000000");
     for (const int control : {Valor1, Valor2})
         for (const wchar_t* const malo : {L"-0.001", L"1000000.5"}) {
-            const auto resultado = AbreConAviso(fueraDeRango, [&](kit::Dialog& dialogo) {
-                dialogo.type(control, malo);
-                dialogo.press(IDOK);
-                EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
-                EXPECT_EQ(dialogo.focus(), control);
-                EXPECT_EQ(dialogo.text(control), malo);
-                dialogo.press(IDCANCEL);
-            });
+            const auto resultado =
+                Abre({Mensaje::DelMarco(fueraDeRango)}, [&](kit::Dialog& dialogo) {
+                    dialogo.type(control, malo);
+                    dialogo.press(IDOK);
+                    EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
+                    EXPECT_EQ(dialogo.focus(), control);
+                    EXPECT_EQ(dialogo.text(control), malo);
+                    dialogo.press(IDCANCEL);
+                });
             EXPECT_EQ(resultado, IDCANCEL);
             CompruebaVariables(0.5, 2.25, 0);
         }
@@ -214,7 +195,7 @@ TEST_F(CurvadoAvanzadoDlg, ValuesOutsideTheirRangeAreRefused) {
 
 TEST_F(CurvadoAvanzadoDlg, BadNumberIsRefusedOnce) {
     for (const int control : {Valor1, Valor2}) {
-        const auto resultado = AbreConAviso(TextoDe(AFX_IDP_PARSE_REAL), [&](kit::Dialog& dialogo) {
+        const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
             dialogo.type(control, L"0,5");
             dialogo.press(IDOK);
             EXPECT_EQ(dialogo.focus(), control);
@@ -226,7 +207,7 @@ TEST_F(CurvadoAvanzadoDlg, BadNumberIsRefusedOnce) {
 }
 
 TEST_F(CurvadoAvanzadoDlg, CorrectedNumberIsTaken) {
-    const auto resultado = AbreConAviso(TextoDe(AFX_IDP_PARSE_REAL), [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
         dialogo.type(Valor2, L"");
         dialogo.press(IDOK);
         dialogo.type(Valor2, L"3");
@@ -255,13 +236,7 @@ TEST_F(CurvadoAvanzadoDlg, KeyboardReachesEveryControlInReadingOrder) {
 }
 
 TEST_F(CurvadoAvanzadoDlg, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
-                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
-                  kit::keyboard::press(VK_RETURN);
-              }),
-              IDOK);
-    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    CompruebaSalidas();
 }
 
 TEST_F(CurvadoAvanzadoDlg, LeavesNothingBehind) {

@@ -2,7 +2,7 @@
 // opened.
 #pragma once
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/Triangulacion2DDlg.h"
 #include "cuadros/triangulation/Triangulacion3DDlg.h"
@@ -27,10 +27,8 @@ static_assert(Casilla == IDC_TRIANGULACION_3D_CASILLA);
 
 /// A test of a selection dialog: three classifications, the host's variables, and the dialog.
 template <class Dlg>
-class ConClasificaciones : public testing::Test {
+class ConClasificaciones : public ConDialogo {
 protected:
-    using Paso = std::function<void(kit::Dialog&)>;
-
     std::vector<Cotana::CInfoClasificacion> clasificaciones{
         Cotana::CInfoClasificacion(2, 148210, L"Ground"),
         Cotana::CInfoClasificacion(6, 5120, L"Buildings"),
@@ -49,17 +47,5 @@ protected:
             return std::make_unique<De>(clasificaciones, valor, entero, activarCasilla, duena);
     }
 
-    /// Runs `dlg` and does `paso` in it; the framework's refusal of a number comes `avisos` times.
-    static INT_PTR Abre(CDialog& dlg, const Paso& paso, int avisos = 0,
-                        kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        EsperaAviso(guion, AFX_IDP_PARSE_REAL, avisos, donde);
-        return guion.run([&] { return dlg.DoModal(); }, donde);
-    }
-    /// The same with a dialog of its own.
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        const auto dlg = Crea();
-        return Abre(*dlg, paso, 0, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return Crea(padre)->DoModal(); }
 };

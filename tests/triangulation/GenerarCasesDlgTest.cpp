@@ -16,7 +16,9 @@ struct GenerarCases {
     static std::vector<int> Botones() { return {}; }
 
     // Kept in one language, whatever the language file is.
-    static std::wstring SinFicheros() { return L"No ha seleccionado ning\u00FAn archivo"; }
+    static Mensaje SinFicheros() {
+        return {L"Error", L"No ha seleccionado ning\u00FAn archivo", MB_ICONERROR};
+    }
 
     template <class D = Clase>
     D Dialogo(CWnd* padre = nullptr) {
@@ -30,11 +32,10 @@ struct GenerarCases {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(GenerarCasesDlg, ListaFicheros, GenerarCases);
 
-TEST(GenerarCasesDlg, ShowsItsListAndItsNumber) {
-    GenerarCases caso;
-    auto dialogo = caso.Dialogo();
-    kit::Script guion;
-    guion.onDialog([](kit::Dialog& abierto) {
+class GenerarCasesDlg : public ListaFicheros<GenerarCases> {};
+
+TEST_F(GenerarCasesDlg, ShowsItsListAndItsNumber) {
+    const auto resultado = Abre([](kit::Dialog& abierto) {
         EXPECT_EQ(abierto.caption(), L"Generate Cases");
         EXPECT_FALSE(abierto.exists(IDC_TRIANGULACION_3D_DISCO_OPCION_1));
         abierto.drop({L"C:\\survey\\north slope\\sheet-0412.xyz",
@@ -43,7 +44,7 @@ TEST(GenerarCasesDlg, ShowsItsListAndItsNumber) {
         abierto.picture(L"GenerarCasesDlg");
         abierto.press(IDCANCEL);
     });
-    EXPECT_EQ(guion.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(resultado, IDCANCEL);
 }
 
 } // namespace

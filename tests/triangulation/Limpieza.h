@@ -1,7 +1,7 @@
 // The two cleaning dialogs for their tests: what each has of its own, and how it is opened.
 #pragma once
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/LimpiarRelieveDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"
@@ -27,11 +27,10 @@ struct DeLimpieza<Cotana::CLimpiarRelieveRangoZDlg> {
 
 /// A test of a cleaning dialog: its record with two values, and the dialog over it.
 template <class Dlg>
-class ConLimpieza : public testing::Test {
+class ConLimpieza : public ConDialogo {
 protected:
     using Dialogo = Dlg;
     using De = DeLimpieza<Dlg>;
-    using Paso = std::function<void(kit::Dialog&)>;
 
     static constexpr int A = De::A;
     static constexpr int B = De::B;
@@ -41,12 +40,7 @@ protected:
         data.m_ValorB = -0.25;
     }
 
-    /// Opens the dialog and does `paso` in it.
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        return guion.run([this] { return Dlg(data).DoModal(); }, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return Dlg(data, padre).DoModal(); }
 
     /// Types both texts and takes OK.
     void Acepta(const wchar_t* textoA, const wchar_t* textoB,

@@ -165,7 +165,7 @@ TYPED_TEST(ListaClasificaciones, WithoutClassificationsDisablesOk) {
 }
 
 TYPED_TEST(ListaClasificaciones, OpensInTheMiddleOfTheOwner) {
-    CompruebaCentro([this](CWnd* duena) { return this->Crea(duena)->DoModal(); });
+    this->CompruebaQueSeCentra();
 }
 
 TYPED_TEST(ListaClasificaciones, HasTheSmallIconOfTriangulationOnly) {
@@ -329,13 +329,7 @@ TYPED_TEST(ListaClasificaciones, KeysChooseARow) {
 }
 
 TYPED_TEST(ListaClasificaciones, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(dialogo.defaultButton(), IDOK);
-        kit::keyboard::press(VK_RETURN);
-    }),
-              IDOK);
-    EXPECT_EQ(this->Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    this->CompruebaSalidas();
 }
 
 TYPED_TEST(ListaClasificaciones, EnterDoesNothingWhileOkIsDisabled) {

@@ -7,14 +7,14 @@
 //     struct GenerarCases {
 //         using Clase = ...;                              // the dialog's class
 //         static std::vector<int> Botones();              // tab stops between number and OK
-//         static std::wstring SinFicheros();              // its message about an empty list
+//         static Mensaje SinFicheros();                   // its message about an empty list
 //         static constexpr auto AlSumar, AlRestar, AlElegir; // its handlers: add, remove, select
 //         template <class D = Clase> D Dialogo(CWnd* padre = nullptr); // over the host's variables
 //         std::vector<CString> ficheros; CDocTemplate* plantilla; double valor; // of the host
 //     };
 #pragma once
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "checks/Escucha.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
@@ -24,7 +24,6 @@
 #include <shellapi.h>
 
 #include <functional>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,9 +43,6 @@ static_assert(Sumar == 1004 && IDC_TRIANGULACION_3D_DISCO_SUMAR == 1004);
 static_assert(Restar == 1023 && IDC_TRIANGULACION_3D_DISCO_RESTAR == 1023);
 static_assert(Valor == 38487 && IDC_TRIANGULACION_3D_DISCO_VALOR == 38487);
 static_assert(IDI_TRIANGULACION == 19011);
-
-/// A refusal that the user has to read meanwhile.
-enum class Aviso { NumeroMalo, SinFicheros };
 
 const Textos CincoFicheros = {L"C:\\0.xyz", L"C:\\1.xyz", L"C:\\2.xyz", L"C:\\3.xyz", L"C:\\4.xyz"};
 
@@ -102,38 +98,12 @@ inline UINT CuantosSoltados(HDROP soltados) {
 }
 
 template <class Caso>
-class ListaFicheros : public testing::Test, protected Caso {
+class ListaFicheros : public ConDialogo, protected Caso {
 protected:
     using Clase = typename Caso::Clase;
     using Derivado = CDerivado<Clase>;
-    using Paso = std::function<void(kit::Dialog&)>;
 
-    /// Opens `dialogo`, does `paso` in it, and returns what `DoModal` returned; `avisos` come
-    /// meanwhile, in this order.
-    INT_PTR Conduce(CDialog& dialogo, std::initializer_list<Aviso> avisos, const Paso& paso,
-                    kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        for (const Aviso aviso : avisos) {
-            if (aviso == Aviso::NumeroMalo)
-                EsperaAviso(guion, AFX_IDP_PARSE_REAL, 1, donde);
-            else
-                guion.expectMessage(L"Error", Caso::SinFicheros(), MB_ICONERROR, donde)
-                    .buttons(MB_OK)
-                    .ownedByDialog();
-        }
-        return guion.run([&] { return dialogo.DoModal(); }, donde);
-    }
-
-    /// The same with a dialog of its own, over the host's variables.
-    INT_PTR Abre(std::initializer_list<Aviso> avisos, const Paso& paso,
-                 kit::Where donde = kit::Where::current()) {
-        auto dialogo = this->Dialogo();
-        return Conduce(dialogo, avisos, paso, donde);
-    }
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        return Abre({}, paso, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return this->Dialogo(padre).DoModal(); }
 };
 
 TYPED_TEST_SUITE_P(ListaFicheros);
@@ -161,10 +131,7 @@ TYPED_TEST_P(ListaFicheros, ShowsTheHostsNumber) {
 }
 
 TYPED_TEST_P(ListaFicheros, OpensInTheMiddleOfItsOwner) {
-    CompruebaCentro([this](CWnd* padre) {
-        auto dialogo = this->Dialogo(padre);
-        return dialogo.DoModal();
-    });
+    this->CompruebaQueSeCentra();
 }
 
 TYPED_TEST_P(ListaFicheros, HasTheSmallIconOfTheSubsystem) {
@@ -180,20 +147,10 @@ TYPED_TEST_P(ListaFicheros, AsksTheHostForSeveralFiles) {
     this->plantilla = reinterpret_cast<CDocTemplate*>(&kit::app);
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
     kit::app.answerFilePrompt(L"C:\\a.xyz");
-    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+    this->Abre(dialogo, [&](kit::Dialog& abierto) {
         abierto.press(Sumar);
-        const auto preguntas = kit::app.takeFilePrompts();
-        ASSERT_EQ(preguntas.size(), 1U);
-        EXPECT_EQ(preguntas[0].nameBefore, L"");
-        EXPECT_EQ(preguntas[0].title, 61440U);
-        EXPECT_EQ(preguntas[0].flags, 0x81204U);
-        EXPECT_EQ(preguntas[0].open, 1);
-        // The dialog's own member, which holds the host's template.
-        EXPECT_EQ(preguntas[0].documentTemplate, &dialogo.m_pPlantilla);
+        CompruebaPregunta(abierto, L"", 0x81204, &dialogo.m_pPlantilla);
         EXPECT_EQ(dialogo.m_pPlantilla, this->plantilla);
-        EXPECT_EQ(preguntas[0].kind, 0);
-        EXPECT_EQ(preguntas[0].reserved, nullptr);
-        EXPECT_EQ(preguntas[0].active, abierto.handle());
         EXPECT_EQ(abierto.listBox(Hojas).texts(), Textos{L"C:\\a.xyz"});
         abierto.press(IDCANCEL);
     });
@@ -308,7 +265,7 @@ TYPED_TEST_P(ListaFicheros, DropIsPassedOnToTheDefaultOnceItsFilesAreListed) {
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
     HDROP llegado = nullptr;
     int veces = 0;
-    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+    this->Abre(dialogo, [&](kit::Dialog& abierto) {
         const Escucha escucha(abierto.handle(), [&](UINT mensaje, WPARAM w, LPARAM) {
             if (mensaje == WM_DROPFILES)
                 llegado = reinterpret_cast<HDROP>(w);
@@ -521,7 +478,7 @@ TYPED_TEST_P(ListaFicheros, OkSelectsEachFileAloneAsItIsTaken) {
         escucha.reset();
         alFinal = kit::ListBox(lista).selected();
     };
-    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+    this->Abre(dialogo, [&](kit::Dialog& abierto) {
         lista = abierto.control(Hojas);
         abierto.drop({L"C:\\a.xyz", L"C:\\b.xyz", L"C:\\c.xyz"});
         abierto.listBox(Hojas).choose({0, 1});
@@ -535,7 +492,7 @@ TYPED_TEST_P(ListaFicheros, OkSelectsEachFileAloneAsItIsTaken) {
 
 TYPED_TEST_P(ListaFicheros, OkCommandWithAnEmptyListIsRefused) {
     this->ficheros = {L"C:\\before.xyz"};
-    const auto resultado = this->Abre({Aviso::SinFicheros}, [this](kit::Dialog& dialogo) {
+    const auto resultado = this->Abre({TypeParam::SinFicheros()}, [this](kit::Dialog& dialogo) {
         dialogo.type(Valor, L"9");
         dialogo.command(IDOK);
         EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
@@ -577,7 +534,7 @@ TYPED_TEST_P(ListaFicheros, HostSeesEachExchangeAsItIsDocumented) {
     kit::app.answerFilePrompt(L"  ");
     kit::app.answerFilePrompt(L"C:\\p.xyz");
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
-    const auto resultado = this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+    const auto resultado = this->Abre(dialogo, [&](kit::Dialog& abierto) {
         EXPECT_EQ(dialogo.Intercambios(), "M");
         abierto.press(Sumar); // cancelled
         EXPECT_EQ(dialogo.Intercambios(), "S");
@@ -601,7 +558,7 @@ TYPED_TEST_P(ListaFicheros, HostSeesEachExchangeAsItIsDocumented) {
 TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtAddingAndThenReplaced) {
     this->valor = 4;
     kit::app.answerFilePrompt(L"C:\\a.xyz");
-    this->Abre({Aviso::NumeroMalo}, [this](kit::Dialog& dialogo) {
+    this->Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.type(Valor, L"4 m");
         dialogo.press(Sumar);
         EXPECT_EQ(dialogo.listBox(Hojas).count(), 1);
@@ -613,7 +570,7 @@ TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtAddingAndThenReplaced) {
 
 TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtRemovingAndThenReplaced) {
     this->valor = 4;
-    this->Abre({Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+    this->Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.drop(CincoFicheros);
         dialogo.listBox(Hojas).choose({1, 3});
         dialogo.type(Valor, L"");
@@ -628,7 +585,7 @@ TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsList
     this->ficheros = {L"C:\\before.xyz"};
     this->valor = 4;
     const auto resultado =
-        this->Abre({Aviso::NumeroMalo, Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+        this->Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
             dialogo.drop({L"C:\\a.xyz"});
             dialogo.type(Valor, L"four");
             dialogo.press(IDOK);
@@ -643,7 +600,7 @@ TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsList
 
 TYPED_TEST_P(ListaFicheros, BadNumberComesBeforeTheEmptyList) {
     const auto resultado =
-        this->Abre({Aviso::NumeroMalo, Aviso::SinFicheros}, [](kit::Dialog& dialogo) {
+        this->Abre({AFX_IDP_PARSE_REAL, TypeParam::SinFicheros()}, [](kit::Dialog& dialogo) {
             dialogo.type(Valor, L"four");
             dialogo.command(IDOK);
             dialogo.press(IDCANCEL);
@@ -714,7 +671,7 @@ TYPED_TEST_P(ListaFicheros, HasClassInformationOfItsOwn) {
 TYPED_TEST_P(ListaFicheros, HostCallsTheHandlersItself) {
     kit::app.answerFilePrompt(L"C:\\p.xyz C:\\q.xyz");
     auto dialogo = this->Dialogo();
-    this->Conduce(dialogo, {}, [&](kit::Dialog& abierto) {
+    this->Abre(dialogo, [&](kit::Dialog& abierto) {
         (dialogo.*TypeParam::AlSumar)();
         EXPECT_EQ(abierto.listBox(Hojas).texts(), (Textos{L"C:\\p.xyz", L"C:\\q.xyz"}));
         EXPECT_TRUE(abierto.enabled(IDOK));
@@ -761,7 +718,7 @@ TYPED_TEST_P(ListaFicheros, RunsUnderTheStateOfTheHost) {
     CWinApp* aplicacion = nullptr;
     auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
     dialogo.alAceptar = [&] { aplicacion = AfxGetApp(); };
-    this->Conduce(dialogo, {}, [](kit::Dialog& abierto) {
+    this->Abre(dialogo, [](kit::Dialog& abierto) {
         abierto.drop({L"C:\\a.xyz"});
         abierto.press(IDOK);
     });

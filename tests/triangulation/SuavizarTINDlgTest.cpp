@@ -313,8 +313,7 @@ TEST_F(SuavizarTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
 
 TEST_F(SuavizarTINDlg, HostSeesEachExchangeAsItIsDocumented) {
     ConIntercambios<CSuavizarTINDlg> contador(data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "MMS");
         dialogo.type(Factor, L"0.5");
         EXPECT_EQ(contador.Intercambios(), "");
@@ -322,14 +321,13 @@ TEST_F(SuavizarTINDlg, HostSeesEachExchangeAsItIsDocumented) {
         EXPECT_EQ(contador.Intercambios(), "S");
         dialogo.press(IDOK);
     });
-    EXPECT_EQ(guion.run([&] { return contador.DoModal(); }), IDOK);
+    EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(contador.Intercambios(), "S");
 }
 
 TEST_F(SuavizarTINDlg, HostCallsTheHandlerItself) {
     CSuavizarTINDlg dlg(data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(dlg, [&](kit::Dialog& dialogo) {
         dialogo.type(Factor, L"0.75");
         dialogo.type(Iteraciones, L"9");
         dlg.CheckDlgButton(Iterar, BST_UNCHECKED);
@@ -345,7 +343,7 @@ TEST_F(SuavizarTINDlg, HostCallsTheHandlerItself) {
         EXPECT_TRUE(dialogo.enabled(Iteraciones));
         dialogo.press(IDCANCEL);
     });
-    EXPECT_EQ(guion.run([&] { return dlg.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(resultado, IDCANCEL);
 }
 
 TEST_F(SuavizarTINDlg, HasClassInformationOfItsOwn) {

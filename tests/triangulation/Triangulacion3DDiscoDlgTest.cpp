@@ -20,11 +20,7 @@ struct Triangulacion3DDisco {
 
     static std::vector<int> Botones() { return {Opcion1}; }
 
-    static std::wstring SinFicheros() {
-        CString texto;
-        EXPECT_TRUE(texto.LoadString(IDS_SIN_FICHEROS));
-        return texto.GetString();
-    }
+    static Mensaje SinFicheros() { return {L"Error", TextoDe(IDS_SIN_FICHEROS), MB_ICONERROR}; }
 
     template <class D = Clase>
     D Dialogo(CWnd* padre = nullptr) {
@@ -95,7 +91,7 @@ TEST_F(Triangulacion3DDiscoDlg, CancelKeepsTheChoiceThatAddingExchanged) {
 // The number is exchanged first: where it is refused the choice is not reached.
 TEST_F(Triangulacion3DDiscoDlg, BadNumberKeepsTheChoiceOfBefore) {
     kit::app.answerFilePrompt(L"C:\\a.xyz");
-    Abre({Aviso::NumeroMalo}, [this](kit::Dialog& dialogo) {
+    Abre({AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
         dialogo.click(Opcion2);
         dialogo.type(Valor, L"x");
         dialogo.press(Sumar);
@@ -106,7 +102,7 @@ TEST_F(Triangulacion3DDiscoDlg, BadNumberKeepsTheChoiceOfBefore) {
 }
 
 TEST_F(Triangulacion3DDiscoDlg, RefusedOkThenCancelKeepsTheChoiceThatOkExchanged) {
-    const auto resultado = Abre({Aviso::SinFicheros}, [this](kit::Dialog& dialogo) {
+    const auto resultado = Abre({SinFicheros()}, [this](kit::Dialog& dialogo) {
         dialogo.click(Opcion2);
         dialogo.command(IDOK);
         EXPECT_EQ(opcion, 1);
@@ -117,7 +113,7 @@ TEST_F(Triangulacion3DDiscoDlg, RefusedOkThenCancelKeepsTheChoiceThatOkExchanged
 }
 
 TEST_F(Triangulacion3DDiscoDlg, BadNumberAtOkThenCancelKeepsTheChoiceOfBefore) {
-    const auto resultado = Abre({Aviso::NumeroMalo, Aviso::NumeroMalo}, [](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.drop(CincoFicheros);
         dialogo.click(Opcion2);
         dialogo.type(Valor, L"x");

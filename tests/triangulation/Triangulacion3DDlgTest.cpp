@@ -120,9 +120,8 @@ TEST_F(Triangulacion3DDlg, CancelForgetsWhatWasTyped) {
 
 TEST_F(Triangulacion3DDlg, BadNumberIsRefusedTwiceAndTheSelectionIsAppendedAgain) {
     const auto dlg = Crea();
-    const auto resultado = Abre(
-        *dlg,
-        [&](kit::Dialog& dialogo) {
+    const auto resultado =
+        Abre(*dlg, {AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
             dialogo.list(Lista).choose({0, 2});
             dialogo.type(Valor, L"2,5");
             dialogo.click(Entero);
@@ -137,8 +136,7 @@ TEST_F(Triangulacion3DDlg, BadNumberIsRefusedTwiceAndTheSelectionIsAppendedAgain
             EXPECT_EQ(dlg->m_Seleccion, (Filas{0, 2}));
             dialogo.type(Valor, L"3.5");
             dialogo.press(IDOK);
-        },
-        2);
+        });
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(valor, 3.5);
     EXPECT_EQ(entero, 1);
@@ -147,14 +145,12 @@ TEST_F(Triangulacion3DDlg, BadNumberIsRefusedTwiceAndTheSelectionIsAppendedAgain
 
 TEST_F(Triangulacion3DDlg, CancelAfterABadNumberKeepsTheAppendedSelection) {
     const auto dlg = Crea();
-    const auto resultado = Abre(
-        *dlg,
-        [](kit::Dialog& dialogo) {
+    const auto resultado =
+        Abre(*dlg, {AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
             dialogo.type(Valor, L"");
             dialogo.press(IDOK);
             dialogo.press(IDCANCEL);
-        },
-        2);
+        });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(valor, 2.5);
     EXPECT_EQ(dlg->m_Seleccion, Filas{0});

@@ -5,12 +5,11 @@
 // checks what he typed, says what is wrong and waits, or closes and leaves it all in the record.
 #include "cuadros/triangulation/TriangulacionDlg.h"
 
-#include "checks/Comprobaciones.h"
+#include "checks/ConDialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
-#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -40,7 +39,6 @@ static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_3 == 20230);
 static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_4 == 20231);
 static_assert(IDC_TRIANGULACION_PARAMETRO_EXTRA == 38487);
 static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
-static_assert(IDS_TITULO_MENSAJES == 15105);
 static_assert(IDS_COLUMNA_CODIGO == 18013);
 static_assert(IDS_COLUMNA_NEMOTECNICO == 18014);
 static_assert(IDS_SIN_CODIGOS == 19002);
@@ -73,13 +71,7 @@ Textos CodigosDe(const CDigiTab& tabla) {
     return codigos;
 }
 
-CString Texto(UINT numero) {
-    CString texto;
-    EXPECT_TRUE(texto.LoadString(numero)) << "text " << numero;
-    return texto;
-}
-
-class TriangulacionDlg : public testing::Test {
+class TriangulacionDlg : public ConDialogo {
 protected:
     TriangulacionDlg() {
         data.m_LimiteInferior = 10;
@@ -96,29 +88,7 @@ protected:
         data.m_CodigosExtra2 = Tabla({{L"X2", L"Second extra"}});
     }
 
-    using Paso = std::function<void(kit::Dialog&)>;
-
-    /// Opens the dialog, does `paso` in it, and returns what `DoModal` returned.
-    ///
-    /// @param mensajes the refusals that come meanwhile, in this order: numbers of the dialog's
-    ///                 messages, or of the framework's own prompt.
-    INT_PTR Abre(std::initializer_list<UINT> mensajes, const Paso& paso,
-                 kit::Where donde = kit::Where::current()) {
-        kit::Script guion;
-        guion.onDialog(paso, donde);
-        for (const UINT mensaje : mensajes) {
-            if (mensaje == AFX_IDP_PARSE_REAL)
-                guion.expectMessage(AfxGetAppName(), Texto(mensaje), MB_ICONEXCLAMATION, donde);
-            else
-                guion.expectMessage(Texto(IDS_TITULO_MENSAJES), Texto(mensaje), MB_ICONERROR, donde)
-                    .buttons(MB_OK)
-                    .ownedByDialog();
-        }
-        return guion.run([this] { return CTriangulacionDlg(data).DoModal(); }, donde);
-    }
-    INT_PTR Abre(const Paso& paso, kit::Where donde = kit::Where::current()) {
-        return Abre({}, paso, donde);
-    }
+    INT_PTR Ejecuta(CWnd* padre) override { return CTriangulacionDlg(data, padre).DoModal(); }
 
     CDataTriangulacion data;
 };
@@ -147,8 +117,8 @@ TEST_F(TriangulacionDlg, ListsHaveTwoColumnsWithGridLinesAndFullRows) {
         for (const int control : {Codigos, Rupturas}) {
             const auto lista = dialogo.list(control);
             ASSERT_EQ(lista.columns(), 2);
-            EXPECT_EQ(lista.heading(0), kit::Text(Texto(IDS_COLUMNA_CODIGO)));
-            EXPECT_EQ(lista.heading(1), kit::Text(Texto(IDS_COLUMNA_NEMOTECNICO)));
+            EXPECT_EQ(lista.heading(0), kit::Text(TextoDe(IDS_COLUMNA_CODIGO)));
+            EXPECT_EQ(lista.heading(1), kit::Text(TextoDe(IDS_COLUMNA_NEMOTECNICO)));
             EXPECT_EQ(lista.width(0), 100);
             EXPECT_EQ(lista.width(1), 230);
             // The first column of any list is left-aligned.
@@ -200,7 +170,7 @@ TEST_F(TriangulacionDlg, ShowsTheRecord) {
 }
 
 TEST_F(TriangulacionDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaCentro([this](CWnd* duena) { return CTriangulacionDlg(data, duena).DoModal(); });
+    CompruebaQueSeCentra();
 }
 
 TEST_F(TriangulacionDlg, HasItsSmallIconOnly) {
@@ -819,12 +789,7 @@ TEST_F(TriangulacionDlg, KeyboardReachesEveryControlInReadingOrder) {
 }
 
 TEST_F(TriangulacionDlg, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
-                  EXPECT_EQ(dialogo.defaultButton(), IDOK);
-                  kit::keyboard::press(VK_RETURN);
-              }),
-              IDOK);
-    EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
+    CompruebaSalidas();
 }
 
 TEST_F(TriangulacionDlg, KeysChooseOneCode) {

@@ -31,7 +31,7 @@ TYPED_TEST(ValoresLimpieza, AreShownWithTwoDecimals) {
 }
 
 TYPED_TEST(ValoresLimpieza, OpenInTheMiddleOfTheOwner) {
-    CompruebaCentro([this](CWnd* duena) { return TypeParam(this->data, duena).DoModal(); });
+    this->CompruebaQueSeCentra();
 }
 
 TYPED_TEST(ValoresLimpieza, HaveTheSmallIconOfCleaningOnly) {
@@ -116,13 +116,7 @@ TYPED_TEST(ValoresLimpieza, KeyboardReachesThemInReadingOrder) {
 }
 
 TYPED_TEST(ValoresLimpieza, EnterIsOkAndEscapeIsCancel) {
-    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(dialogo.defaultButton(), IDOK);
-        kit::keyboard::press(VK_RETURN);
-    }),
-              IDOK);
-    EXPECT_EQ(this->Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(this->Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
+    this->CompruebaSalidas();
 }
 
 TYPED_TEST(ValoresLimpieza, TypingOverTheFirstOneNeedsNoMouse) {
@@ -158,25 +152,23 @@ TYPED_TEST(ValoresLimpieza, HelpOfADerivedClassIsTheOneThatOpens) {
 
 TYPED_TEST(ValoresLimpieza, HostSeesEachExchangeAsItIsDocumented) {
     ConIntercambios<TypeParam> contador(this->data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
+    const auto resultado = this->Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "MM");
         dialogo.type(TestFixture::A, L"1");
         EXPECT_EQ(contador.Intercambios(), "");
         dialogo.press(IDOK);
     });
-    EXPECT_EQ(guion.run([&] { return contador.DoModal(); }), IDOK);
+    EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(contador.Intercambios(), "SS");
 }
 
 TYPED_TEST(ValoresLimpieza, ResultOfOksOwnExchangeIsNotLookedAt) {
     CDesconfiado<TypeParam> desconfiado(this->data);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
+    const auto resultado = this->Abre(desconfiado, [&](kit::Dialog& dialogo) {
         dialogo.type(TestFixture::A, L"8");
         dialogo.press(IDOK);
     });
-    EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDOK);
+    EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(this->data.m_ValorA, 8);
 }
 
@@ -187,14 +179,13 @@ TYPED_TEST(ValoresLimpieza, AreInTheRecordWhenTheFrameworksExchangeIsRefused) {
         EXPECT_EQ(this->data.m_ValorA, 8);
         EXPECT_EQ(this->data.m_ValorB, 9);
     };
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
+    const auto resultado = this->Abre(desconfiado, [&](kit::Dialog& dialogo) {
         dialogo.type(TestFixture::A, L"8");
         dialogo.type(TestFixture::B, L"9");
         dialogo.press(IDOK);
         dialogo.press(IDCANCEL);
     });
-    EXPECT_EQ(guion.run([&] { return desconfiado.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(this->data.m_ValorA, 8);
     EXPECT_EQ(this->data.m_ValorB, 9);
 }

@@ -24,14 +24,11 @@ double Distance(const MapPoint& from, const MapPoint& to) {
 /// The way along a contour.
 class Path {
 public:
-    explicit Path(const Contour& contour) : m_Points(contour.points) {
+    explicit Path(const Contour& contour) : m_Points{contour.points.front()}, m_Distances{0} {
+        for (const MapPoint& point : contour.points)
+            Continue(point);
         if (contour.closed)
-            m_Points.push_back(m_Points.front());
-        m_Distances.push_back(0);
-        for (size_t index = 1; index < m_Points.size(); ++index) {
-            m_Distances.push_back(m_Distances.back() +
-                                  Distance(m_Points[index - 1], m_Points[index]));
-        }
+            Continue(contour.points.front());
     }
 
     double Length() const { return m_Distances.back(); }
@@ -48,6 +45,15 @@ public:
     }
 
 private:
+    void Continue(const MapPoint& point) {
+        const double distance = m_Distances.back() + Distance(m_Points.back(), point);
+        // A step may be so short that it is lost in the sum: it leads nowhere.
+        if (distance > m_Distances.back()) {
+            m_Points.push_back(point);
+            m_Distances.push_back(distance);
+        }
+    }
+
     std::vector<MapPoint> m_Points;
     std::vector<double> m_Distances;
 };

@@ -77,6 +77,15 @@ TEST(ContourDrawing, AShorterLineThanTheSpacingHasOneLabelIfThereIsRoom) {
     EXPECT_EQ(Labels(DrawingOf({{0, 0}, {9.5, 0}}), {2, 100, 0, true}).size(), 0u);
 }
 
+TEST(ContourDrawing, AStepThatIsLostInTheLengthEndsNoLabel) {
+    // The only place is the second leg, which is as long as the text.
+    const auto labels =
+        Labels(DrawingOf({{-6, -6}, {-6, 0}, {0, 0}, {0, 1e-20}}), {2.5, 100, 0, true});
+    ASSERT_EQ(labels.size(), 1u);
+    EXPECT_EQ(labels[0].middle, (MapPoint{-3, 0}));
+    EXPECT_EQ(labels[0].angle, 0);
+}
+
 TEST(ContourDrawing, LabelsAreTurnedWithTheLineAndNeverUpsideDown) {
     for (int degrees = -180; degrees < 180; degrees += 15) {
         const double angle = degrees * std::numbers::pi / 180;

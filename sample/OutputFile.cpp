@@ -56,6 +56,9 @@ void OutputFile::Flush() {
 
 void OutputFile::Complete() {
     Flush();
+    // On the disk before it replaces what stands there.
+    if (!FlushFileBuffers(m_Handle))
+        ThrowLastError();
     // An open file cannot be renamed. From here on the destructor has nothing to close.
     const BOOL closed = CloseHandle(std::exchange(m_Handle, INVALID_HANDLE_VALUE));
     if (closed && MoveFileExW(m_Part, m_Name, MOVEFILE_REPLACE_EXISTING))

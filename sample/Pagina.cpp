@@ -87,12 +87,17 @@ std::string Base64(std::string_view bytes) {
 }
 
 std::string Lee(const CString& ruta) {
-    InputFile fichero(ruta);
-    std::string bytes;
-    char bloque[16 * 1024];
-    while (const size_t leidos = fichero.Read(bloque, sizeof bloque))
-        bytes.append(bloque, leidos);
-    return bytes;
+    try {
+        InputFile fichero(ruta);
+        std::string bytes;
+        char bloque[16 * 1024];
+        while (const size_t leidos = fichero.Read(bloque, sizeof bloque))
+            bytes.append(bloque, leidos);
+        return bytes;
+    } catch (const Fault& fallo) {
+        // It is the page that is refused: it says because of which picture.
+        throw Fault{Refusal(ruta, fallo.text).GetString()};
+    }
 }
 
 std::string Tabla(const Parada& parada) {
@@ -117,7 +122,7 @@ std::string Imagen(const Parada& parada, const CString& ruta, const char* tipo,
 
 } // namespace
 
-bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
+CString EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
     const auto escribe = [&](OutputFile& pagina) {
         pagina << Cabecera;
         for (const Parada& parada : paradas) {
@@ -137,5 +142,5 @@ bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta) {
         }
         pagina << Cierre;
     };
-    return WriteTextFile(carpeta + L"\\index.html", escribe).IsEmpty();
+    return WriteTextFile(carpeta + L"\\index.html", escribe);
 }

@@ -17,5 +17,6 @@ struct Parada {
 };
 
 /// Writes index.html into the tour's folder: one file with the pictures in it.
-/// @return false when it cannot be written, or a picture not be read.
-bool EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta);
+/// @return empty; else one line that names the file which cannot be written, or the picture which
+///         cannot be read, and says why.
+CString EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta);

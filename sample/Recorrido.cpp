@@ -119,8 +119,9 @@ bool Recorre(CEjemploApp& app, Terreno& terreno, const CString& carpeta) {
         paradas.push_back(VisitaConversacion(conversacion, app, terreno, completa));
         Imprime(paradas.back());
     }
-    if (!EscribePagina(paradas, completa)) {
-        Escribe(carpeta + L": the page cannot be written\n", true);
+    const CString fallo = EscribePagina(paradas, completa);
+    if (!fallo.IsEmpty()) {
+        Escribe(fallo + L"\n", true);
         return false;
     }
     return fallos == 0;

@@ -14,7 +14,7 @@ arguments=()
 for argument in "$@"; do
   case $argument in
     --tour) display= ;;
-    '' | -* | /*) arguments+=("$argument") ;;
+    '' | -* | /* | ?:*) arguments+=("$argument") ;;
     *) arguments+=("$CUADROS_CALLER/$argument") ;;
   esac
 done

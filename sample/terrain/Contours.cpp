@@ -1,7 +1,6 @@
 #include "sample/terrain/Contours.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>

@@ -60,7 +60,7 @@ CString FindContourLevels(const ElevationRange& span, const ContourOptions& opti
 /// its level is left out, while a ridge that crosses the terrain has a line on either side.
 ///
 /// @param contours hold them afterwards, the lowest level first; untouched on an error.
-/// @return empty; else one line: what FindContourLevels says, or that the contours would have
-///         more than 50,000,000 points or do not fit into memory.
+/// @return empty; else one line: what FindContourLevels says, or that the contours would cross
+///         more than 50,000,000 cells or do not fit into memory.
 CString TraceContours(const ElevationGrid& grid, const ContourOptions& options,
                       std::vector<Contour>& contours);

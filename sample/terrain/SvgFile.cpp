@@ -25,7 +25,7 @@ std::string Escaped(const CString& text) {
         else if (character == L'"')
             escaped += L"&quot;";
         else if (character < L' ' || character >= 0xFFFE)
-            escaped += L' '; // XML has no way to write them
+            escaped += L' '; // most of them cannot stand in XML at all
         else
             escaped += character;
     }

@@ -15,6 +15,8 @@ LineaOrdenes Lee(const std::vector<const wchar_t*>& argumentos) {
 TEST(LineaOrdenes, AsksForNothingWhenItIsEmpty) {
     const LineaOrdenes linea = Lee({});
     EXPECT_EQ(linea.carpetaRecorrido, L"");
+    EXPECT_EQ(linea.ficheroRejilla, L"");
+    EXPECT_EQ(linea.carpetaDibujos, L"");
     EXPECT_EQ(linea.ficheroCodigos, L"");
     EXPECT_EQ(linea.error, L"");
 }

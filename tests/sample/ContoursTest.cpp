@@ -435,15 +435,14 @@ TEST(Contours, OfRandomGroundCrossEverySideOnce) {
             }
         }
 
-        size_t points = 0;
         for (const Contour& line : At(grid, level)) {
-            points += line.points.size();
             for (const MapPoint& point : line.points) {
                 const auto side = ends.find({std::round(point.x * 1e9), std::round(point.y * 1e9)});
                 ASSERT_NE(side, ends.end()) << point.x << " " << point.y;
                 const bool end =
                     !line.closed && (point == line.points.front() || point == line.points.back());
                 EXPECT_EQ(side->second, end ? 1 : 2);
+                ends.erase(side); // a second point on it finds none
             }
             if (line.closed) {
                 EXPECT_EQ(line.depression, Area(line) < 0);
@@ -462,7 +461,7 @@ TEST(Contours, OfRandomGroundCrossEverySideOnce) {
                     level);
             }
         }
-        EXPECT_EQ(points, ends.size());
+        EXPECT_TRUE(ends.empty()) << ends.size() << " sides that no line crosses";
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "kit/kit.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 #include <sstream>
@@ -182,11 +183,10 @@ TEST(DxfFile, LayersOfOneNameAreOne) {
         names.push_back(name);
     EXPECT_EQ(names, (std::vector<std::string>{"0", "CURVAS", "T_XT"}));
     EXPECT_EQ(Polylines(items)[1].head.Text(8), "0");
-    for (const Item& item : items) {
-        if (item.name == "TABLE" && item.Text(2) == "LAYER") {
-            EXPECT_EQ(item.Text(70), "3");
-        }
-    }
+    const auto table = std::ranges::find_if(
+        items, [](const Item& item) { return item.name == "TABLE" && item.Text(2) == "LAYER"; });
+    ASSERT_NE(table, items.end());
+    EXPECT_EQ(table->Text(70), "3");
 }
 
 TEST(DxfFile, WhatSharesALayerHasAColourOfItsOwn) {
@@ -215,11 +215,10 @@ TEST(DxfFile, ALabelsHeightIsNeverZero) {
     ContourDrawing drawing = SmallDrawing();
     drawing.decimals = 0; // of large cells
     drawing.labelHeight = 0.0002;
-    for (const Item& item : Written(drawing)) {
-        if (item.name == "TEXT") {
-            EXPECT_EQ(item.Number(40), 0.0002);
-        }
-    }
+    const auto items = Written(drawing);
+    const auto text = std::ranges::find(items, "TEXT", &Item::name);
+    ASSERT_NE(text, items.end());
+    EXPECT_EQ(text->Number(40), 0.0002);
 }
 
 TEST(DxfFile, HeaderHasTheBoundsOfAllThatIsDrawn) {

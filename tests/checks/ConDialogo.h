@@ -4,10 +4,13 @@
 
 #include "checks/Comprobaciones.h"
 
+#include <afxcmn.h>
+
 #include <functional>
 #include <initializer_list>
 #include <list>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -107,30 +110,51 @@ inline std::vector<HWND> ControlesDe(HWND dialogo) {
     return controles;
 }
 
-/// The numbers of all controls of a dialog that have this style, in its order.
-inline std::vector<int> ControlesCon(const kit::Dialog& dialogo, LONG_PTR estilo) {
-    std::vector<int> numeros;
+/// Controls of a dialog, by their numbers.
+using Controles = std::set<int>;
+
+/// Those for which `es` holds.
+inline Controles ControlesQue(const kit::Dialog& dialogo, const std::function<bool(HWND)>& es) {
+    Controles controles;
     for (const HWND control : ControlesDe(dialogo.handle()))
-        if ((GetWindowLongPtrW(control, GWL_STYLE) & estilo) != 0)
-            numeros.push_back(GetDlgCtrlID(control));
-    return numeros;
+        if (es(control))
+            controles.insert(GetDlgCtrlID(control));
+    return controles;
+}
+inline Controles Deshabilitados(const kit::Dialog& dialogo) {
+    return ControlesQue(dialogo, [](HWND control) { return !IsWindowEnabled(control); });
+}
+inline Controles Ocultos(const kit::Dialog& dialogo) {
+    return ControlesQue(dialogo, [](HWND control) { return !IsWindowVisible(control); });
 }
 
 /// What happens, in its order: "hide 20239", "enable 20047" and the like for the controls, "centre"
 /// and "icon" for the dialog, "M" and "S" for the exchanges as in `ConIntercambios`.
 using Diario = std::vector<std::string>;
 
-/// For its life writes down which controls of a dialog are hidden, shown, disabled and enabled.
+/// For its life writes down what is done to the controls of a dialog: hidden, shown, disabled,
+/// enabled; "range 1024" of arrows, "select 0 in 20210" of lists, "12.00 in 20074" of labels.
 class EscuchaControles {
 public:
     EscuchaControles(HWND dialogo, Diario& diario) {
         for (const HWND control : ControlesDe(dialogo)) {
+            wchar_t clase[10] = {};
+            GetClassNameW(control, clase, 10);
+            const bool rotulo = _wcsicmp(clase, L"static") == 0;
             const auto numero = std::to_string(GetDlgCtrlID(control));
-            m_Escuchas.emplace_back(control, [&diario, numero](UINT mensaje, WPARAM si, LPARAM) {
+            m_Escuchas.emplace_back(control, [=, &diario](UINT mensaje, WPARAM w, LPARAM l) {
                 if (mensaje == WM_SHOWWINDOW)
-                    diario.push_back((si ? "show " : "hide ") + numero);
+                    diario.push_back((w ? "show " : "hide ") + numero);
                 if (mensaje == WM_ENABLE)
-                    diario.push_back((si ? "enable " : "disable ") + numero);
+                    diario.push_back((w ? "enable " : "disable ") + numero);
+                if (mensaje == UDM_SETRANGE || mensaje == UDM_SETRANGE32)
+                    diario.push_back("range " + numero);
+                if (mensaje == CB_SETCURSEL)
+                    diario.push_back("select " + std::to_string(static_cast<int>(w)) + " in " +
+                                     numero);
+                if (mensaje == WM_SETTEXT && rotulo)
+                    diario.push_back(kit::utf8(reinterpret_cast<const wchar_t*>(l)) + " in " +
+                                     numero);
                 return std::optional<LRESULT>();
             });
         }

@@ -53,7 +53,7 @@ TEST_F(CambiosPendienteTINDlg, ShowsTheRecord) {
         EXPECT_EQ(dialogo.text(Valor), L"12.5");
         EXPECT_TRUE(dialogo.checked(Dibujo1));
         EXPECT_FALSE(dialogo.checked(Dibujo2));
-        EXPECT_TRUE(ControlesCon(dialogo, WS_VISIBLE) == ControlesCon(dialogo, WS_CHILD));
+        EXPECT_EQ(Ocultos(dialogo), Controles{});
         dialogo.picture(L"CambiosPendienteTINDlg");
         dialogo.press(IDCANCEL);
     });
@@ -69,12 +69,12 @@ TEST_F(CambiosPendienteTINDlg, EachBoxShowsItsOwnFlag) {
 }
 
 TEST_F(CambiosPendienteTINDlg, NotesAreDisabledAndStayIt) {
-    const std::vector<int> notas = {NotaValor, NotaCadena};
+    const Controles notas = {NotaValor, NotaCadena};
     Abre([&](kit::Dialog& dialogo) {
-        EXPECT_EQ(ControlesCon(dialogo, WS_DISABLED), notas);
+        EXPECT_EQ(Deshabilitados(dialogo), notas);
         for (const int casilla : {Dibujo1, Dibujo1, Dibujo2, Dibujo2}) {
             dialogo.click(casilla);
-            EXPECT_EQ(ControlesCon(dialogo, WS_DISABLED), notas);
+            EXPECT_EQ(Deshabilitados(dialogo), notas);
         }
         for (const int nota : notas)
             EXPECT_FALSE(dialogo.text(nota).empty());
@@ -86,7 +86,7 @@ TEST_F(CambiosPendienteTINDlg, OpensInItsOrder) {
     data.m_GenerarDibujo1 = FALSE;
     data.m_GenerarDibujo2 = FALSE;
     ConDiario<CCambiosPendienteTINDlg> conDiario(data);
-    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "disable 14501", "disable 14503",
                                         "M", "S", "disable 1"}));
 }
@@ -191,7 +191,7 @@ TEST_F(CambiosPendienteTINDlg, FlagsCountAlsoWhereTheHostRefusesTheExchange) {
     data.m_GenerarDibujo2 = FALSE;
     CDesconfiado<CCambiosPendienteTINDlg> dlg(data);
     dlg.rechazado = 2; // the first one opens it
-    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+    Abre(dlg, [](kit::Dialog& dialogo) {
         dialogo.click(Dibujo1);
         EXPECT_FALSE(dialogo.enabled(IDOK));
         dialogo.press(IDCANCEL);
@@ -475,7 +475,7 @@ TEST_F(CambiosPendienteTINDlg, EnterPressesNoDisabledOk) {
     data.m_GenerarDibujo1 = FALSE;
     data.m_GenerarDibujo2 = FALSE;
     ConIntercambios<CCambiosPendienteTINDlg> contador(data);
-    const auto resultado = Abre(contador, {}, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "MMS");
         for (const int control : {Valor, Cadena, Dibujo1}) {
             dialogo.focusOn(control);
@@ -511,7 +511,7 @@ TEST_F(CambiosPendienteTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
 
 TEST_F(CambiosPendienteTINDlg, HostSeesEachExchangeAsItIsDocumented) {
     ConIntercambios<CCambiosPendienteTINDlg> contador(data);
-    const auto resultado = Abre(contador, {}, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "MMS");
         dialogo.type(Valor, L"4");
         EXPECT_EQ(contador.Intercambios(), "");
@@ -527,7 +527,7 @@ TEST_F(CambiosPendienteTINDlg, HostSeesEachExchangeAsItIsDocumented) {
 
 TEST_F(CambiosPendienteTINDlg, HostCallsTheHandlerItself) {
     CCambiosPendienteTINDlg dlg(data);
-    Abre(dlg, {}, [&](kit::Dialog& dialogo) {
+    Abre(dlg, [&](kit::Dialog& dialogo) {
         dialogo.type(Valor, L"4");
         dlg.CheckDlgButton(Dibujo1, BST_UNCHECKED);
         dlg.CheckDlgButton(Dibujo2, BST_UNCHECKED);

@@ -9,16 +9,12 @@
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 
-#include <initializer_list>
-#include <set>
-#include <string>
 #include <tuple>
 #include <vector>
 
 namespace {
 
 using Cotana::CDataCurvado;
-using Controles = std::set<int>;
 
 constexpr int Escala = IDC_CURVADO_ESCALA;
 constexpr int Equidistancia = IDC_CURVADO_EQUIDISTANCIA;
@@ -121,21 +117,6 @@ const std::vector<Casilla> Casillas = {
     {RespetarCurvas, &CDataCurvado::m_RespetarCurvas, {CurvasARespetar1, CurvasARespetar2}},
     {RangoCota, &CDataCurvado::m_RangoCota, {CotaMinima, CotaMaxima}},
 };
-
-/// The controls of the dialog for which `es` holds.
-inline Controles ControlesQue(const kit::Dialog& dialogo, const std::function<bool(HWND)>& es) {
-    Controles controles;
-    for (const HWND control : ControlesDe(dialogo.handle()))
-        if (es(control))
-            controles.insert(GetDlgCtrlID(control));
-    return controles;
-}
-inline Controles Deshabilitados(const kit::Dialog& dialogo) {
-    return ControlesQue(dialogo, [](HWND control) { return !IsWindowEnabled(control); });
-}
-inline Controles Ocultos(const kit::Dialog& dialogo) {
-    return ControlesQue(dialogo, [](HWND control) { return !IsWindowVisible(control); });
-}
 
 inline void Une(Controles& controles, const Controles& otros) {
     controles.insert(otros.begin(), otros.end());

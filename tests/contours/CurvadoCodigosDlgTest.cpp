@@ -61,23 +61,19 @@ TEST_F(CurvadoCodigosDlg, ShowsTheFiveCodes) {
 
 TEST_F(CurvadoCodigosDlg, NumbersOfTheCodesAreHiddenAndNothingElse) {
     Abre([](kit::Dialog& dialogo) {
-        for (const HWND control : ControlesDe(dialogo.handle())) {
-            const int numero = GetDlgCtrlID(control);
-            const bool oculto = std::count(Numeros.begin(), Numeros.end(), numero) > 0;
-            EXPECT_EQ(IsWindowVisible(control) == FALSE, oculto) << numero;
-        }
+        EXPECT_EQ(Ocultos(dialogo), Controles(Numeros.begin(), Numeros.end()));
         // Each says which code it stands beside.
         for (std::size_t i = 0; i < Numeros.size(); ++i)
             EXPECT_EQ(dialogo.text(Numeros[i]), std::to_wstring(i + 1));
         EXPECT_FALSE(dialogo.exists(20042)) << "no code has this one";
-        EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
         dialogo.press(IDCANCEL);
     });
 }
 
 TEST_F(CurvadoCodigosDlg, OpensByOneExchangeAndThenHidesTheNumbersInTheirOrder) {
     auto conDiario = Dialogo<ConDiario<CCurvadoCodigosDlg>>();
-    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "hide 20039", "hide 20040",
                                         "hide 20041", "hide 20043", "hide 20044"}));
 }
@@ -213,7 +209,7 @@ TEST_F(CurvadoCodigosDlg, HelpOfADerivedClassIsTheOneThatOpens) {
 
 TEST_F(CurvadoCodigosDlg, HostSeesOneExchangeAtOpeningAndOneByOk) {
     auto contador = Dialogo<ConIntercambios<CCurvadoCodigosDlg>>();
-    const auto resultado = Abre(contador, {}, [&](kit::Dialog& dialogo) {
+    const auto resultado = Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "M");
         dialogo.type(Codigos[0], L"11");
         EXPECT_EQ(contador.Intercambios(), "");
@@ -225,7 +221,7 @@ TEST_F(CurvadoCodigosDlg, HostSeesOneExchangeAtOpeningAndOneByOk) {
 
 TEST_F(CurvadoCodigosDlg, HostSeesNoExchangeByCancel) {
     auto contador = Dialogo<ConIntercambios<CCurvadoCodigosDlg>>();
-    Abre(contador, {}, [&](kit::Dialog& dialogo) {
+    Abre(contador, [&](kit::Dialog& dialogo) {
         EXPECT_EQ(contador.Intercambios(), "M");
         dialogo.press(IDCANCEL);
     });
@@ -234,7 +230,7 @@ TEST_F(CurvadoCodigosDlg, HostSeesNoExchangeByCancel) {
 
 TEST_F(CurvadoCodigosDlg, ExchangesWithTheVeryTextsOfTheCaller) {
     auto dlg = Dialogo();
-    Abre(dlg, {}, [&](kit::Dialog& dialogo) {
+    Abre(dlg, [&](kit::Dialog& dialogo) {
         const Textos deOtroSitio = {L"a", L"b", L"c", L"d", L"e"};
         codigos = deOtroSitio;
         dlg.UpdateData(FALSE);

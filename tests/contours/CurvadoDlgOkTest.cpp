@@ -3,7 +3,6 @@
 #include "contours/Curvado.h"
 
 #include <cmath>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -607,12 +606,16 @@ TEST_F(CurvadoDlgOk, CorrectedNumberIsTaken) {
 TEST_F(CurvadoDlgOk, RefusedExchangeIsFollowedByTheChecks) {
     auto desconfiado = Dialogo<CDesconfiado<CCurvadoDlg>>();
     desconfiado.rechazado = 6;
-    const auto resultado = Abre(desconfiado, [](kit::Dialog& dialogo) {
-        dialogo.type(Equidistancia, L"7");
-        dialogo.press(IDOK);
-    });
+    const auto resultado =
+        Abre(desconfiado, {IDS_SEGUNDO_VALOR_NO_POSITIVO}, [this](kit::Dialog& dialogo) {
+            dialogo.type(TextoValor2, L"0");
+            dialogo.press(IDOK);
+            EXPECT_EQ(data.m_TextoValor2, 0);
+            dialogo.type(TextoValor2, L"7");
+            dialogo.press(IDOK);
+        });
     EXPECT_EQ(resultado, IDOK);
-    EXPECT_EQ(data.m_Equidistancia, 7);
+    EXPECT_EQ(data.m_TextoValor2, 7);
 }
 
 TEST_F(CurvadoDlgOk, RefusedLastExchangeKeepsTheDialogOpen) {

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <list>
-#include <optional>
 #include <utility>
 
 namespace {
@@ -120,96 +118,53 @@ TEST_F(CurvadoDlg, OpeningReadsBackWhatTheControlsShow) {
     });
 }
 
-// Notes what happens to the dialog and its controls from the first exchange of its opening on.
-class CApuntado : public CCurvadoDlg {
-public:
-    using CCurvadoDlg::CCurvadoDlg;
-
-    std::function<void(CApuntado&)> alEmpezar = [](CApuntado&) {};
-    std::string pasos;
-
-    BOOL OnInitDialog() override {
-        const BOOL resultado = CCurvadoDlg::OnInitDialog();
-        m_Escuchas.clear();
-        return resultado;
-    }
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        if (!std::exchange(m_Empezado, true)) {
-            alEmpezar(*this);
-            Atiende(m_hWnd);
-            for (CWnd* control = GetWindow(GW_CHILD); control; control = control->GetNextWindow())
-                Atiende(control->m_hWnd);
-        }
-        Apunta(pDX->m_bSaveAndValidate ? "S" : "M");
-        CCurvadoDlg::DoDataExchange(pDX);
-    }
-
-private:
-    void Atiende(HWND ventana) {
-        const std::string quien = ' ' + std::to_string(::GetDlgCtrlID(ventana));
-        m_Escuchas.emplace_back(ventana, [=, this](UINT mensaje, WPARAM w, LPARAM l) {
-            Oye(ventana == m_hWnd, quien, mensaje, w, l);
-            return std::optional<LRESULT>();
-        });
-    }
-    void Oye(bool dialogo, const std::string& quien, UINT mensaje, WPARAM w, LPARAM l) {
-        switch (mensaje) {
-        case WM_WINDOWPOSCHANGED:
-            if (dialogo)
-                Apunta("moved");
-            break;
-        case WM_SETICON:
-            Apunta("icon");
-            break;
-        case UDM_SETRANGE:
-        case UDM_SETRANGE32:
-            Apunta("range" + quien);
-            break;
-        case CB_SETCURSEL:
-            Apunta("select " + std::to_string(static_cast<int>(w)));
-            break;
-        case WM_SHOWWINDOW:
-            if (!dialogo)
-                Apunta((w ? "show" : "hide") + quien);
-            break;
-        case WM_SETTEXT:
-            if (quien == " 20074" || quien == " 20075")
-                Apunta(kit::utf8(reinterpret_cast<const wchar_t*>(l)) + " in" + quien);
-            break;
-        case WM_ENABLE:
-            Apunta((w ? "enable" : "disable") + quien);
-            break;
-        default:
-            break;
-        }
-    }
-    void Apunta(const std::string& paso) { pasos += paso + '\n'; }
-
-    bool m_Empezado = false;
-    std::list<Escucha> m_Escuchas;
-};
-
 TEST_F(CurvadoDlg, OpeningTakesItsStepsInTheirOrder) {
     NadaEnUso();
     extras = SW_HIDE;
-    auto dialogo = Dialogo<CApuntado>();
+    auto dialogo = Dialogo<ConDiario<CCurvadoDlg>>();
     Abre(dialogo, [](kit::Dialog& abierto) { abierto.press(IDCANCEL); });
-    EXPECT_EQ(dialogo.pasos,
-              "M\n"
-              "moved\nicon\nrange 1024\nselect 0\n"
-              "hide 20024\nhide 20210\nhide 20208\nhide 20209\nhide 20206\nhide 1024\n"
-              "hide 18285\nhide 20212\nhide 20213\nhide 20083\nhide 20084\nhide 20214\n"
-              "hide 20215\n"
-              "150.00 in 20075\n400.00 in 20074\n"
-              "M\n"
-              "S\ndisable 20091\ndisable 20093\n"
-              "S\ndisable 20083\ndisable 20084\n"
-              "S\ndisable 20090\ndisable 20089\ndisable 20092\ndisable 20217\n"
-              "S\ndisable 20086\ndisable 20085\n"
-              "S\ndisable 18285\ndisable 20206\ndisable 1024\n"
-              "M\n");
+    // An exchange for the boxes of each group, and what it disables.
+    const Diario pasos = {"M",
+                          "centre",
+                          "icon",
+                          "range 1024",
+                          "select 0 in 20210",
+                          "hide 20024",
+                          "hide 20210",
+                          "hide 20208",
+                          "hide 20209",
+                          "hide 20206",
+                          "hide 1024",
+                          "hide 18285",
+                          "hide 20212",
+                          "hide 20213",
+                          "hide 20083",
+                          "hide 20084",
+                          "hide 20214",
+                          "hide 20215",
+                          "150.00 in 20075",
+                          "400.00 in 20074",
+                          "M",
+                          "S",
+                          "disable 20091",
+                          "disable 20093",
+                          "S",
+                          "disable 20083",
+                          "disable 20084",
+                          "S",
+                          "disable 20090",
+                          "disable 20089",
+                          "disable 20092",
+                          "disable 20217",
+                          "S",
+                          "disable 20086",
+                          "disable 20085",
+                          "S",
+                          "disable 18285",
+                          "disable 20206",
+                          "disable 1024",
+                          "M"};
+    EXPECT_EQ(dialogo.diario, pasos);
 }
 
 TEST_F(CurvadoDlg, OpeningGoesOnWhereAnExchangeIsRefused) {
@@ -252,25 +207,33 @@ TEST_F(CurvadoDlg, HostShowsEveryControl) {
     }
 }
 
+/// A dialog whose group is hidden before it begins.
+class ConGrupoOculto : public ConDiario<CCurvadoDlg> {
+public:
+    using ConDiario::ConDiario;
+
+    BOOL OnInitDialog() override {
+        for (const int control : Ocultables)
+            GetDlgItem(control)->ShowWindow(SW_HIDE);
+        return ConDiario::OnInitDialog();
+    }
+};
+
 TEST_F(CurvadoDlg, GroupIsShownAlsoWhereItWasHidden) {
     NadaEnUso();
+    Diario mostrados = {"select 0 in 20210"};
+    for (const int control : Ocultables)
+        mostrados.push_back("show " + std::to_string(control));
+    mostrados.emplace_back("150.00 in 20075");
     for (const int como : {SW_SHOWNORMAL, SW_SHOWNOACTIVATE, SW_SHOW, SW_SHOWNA}) {
         extras = como;
-        auto dialogo = Dialogo<CApuntado>();
-        dialogo.alEmpezar = [](CApuntado& este) {
-            for (const int control : Ocultables)
-                este.GetDlgItem(control)->ShowWindow(SW_HIDE);
-        };
+        auto dialogo = Dialogo<ConGrupoOculto>();
         Abre(dialogo, [&](kit::Dialog& abierto) {
             EXPECT_EQ(Ocultos(abierto), Controles{}) << como;
             abierto.press(IDCANCEL);
         });
-        std::string mostrados;
-        for (const int control : Ocultables)
-            mostrados += "show " + std::to_string(control) + '\n';
-        EXPECT_NE(dialogo.pasos.find("select 0\n" + mostrados + "150.00 in"), std::string::npos)
-            << "command " << como << ":\n"
-            << dialogo.pasos;
+        EXPECT_FALSE(std::ranges::search(dialogo.diario, mostrados).empty())
+            << "command " << como << ": " << testing::PrintToString(dialogo.diario);
     }
 }
 

@@ -46,7 +46,7 @@ TEST_F(CurvadoTriangulacionDlg, ShowsTheIntervalAndTheCode) {
         EXPECT_EQ(dialogo.caption(), L"Contours from a Triangulation");
         EXPECT_EQ(dialogo.text(Equidistancia), L"2.5");
         EXPECT_EQ(dialogo.text(Cadena), L"CV");
-        EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
         dialogo.picture(L"CurvadoTriangulacionDlg");
         dialogo.press(IDCANCEL);
     });
@@ -54,7 +54,7 @@ TEST_F(CurvadoTriangulacionDlg, ShowsTheIntervalAndTheCode) {
 
 TEST_F(CurvadoTriangulacionDlg, OpensByOneExchange) {
     ConDiario<CCurvadoTriangulacionDlg> conDiario(equidistancia, cadena);
-    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon"}));
 }
 
@@ -262,7 +262,7 @@ TEST_F(CurvadoTriangulacionDlg, BadIntervalIsFollowedByTheChecksOfTheValuesBefor
 
 TEST_F(CurvadoTriangulacionDlg, OkGoesOnAfterARefusedExchangeOfItsOwn) {
     CDesconfiado<CCurvadoTriangulacionDlg> dlg(equidistancia, cadena);
-    EXPECT_EQ(Abre(dlg, {}, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+    EXPECT_EQ(Abre(dlg, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
 }
 
 // Cancel.
@@ -339,7 +339,7 @@ TEST_F(CurvadoTriangulacionDlg, CodeIsCopiedWhenTheDialogIsMade) {
     cadena = L"Changed";
     EXPECT_EQ(dlg.m_Equidistancia, 2.5);
     EXPECT_EQ(dlg.m_Cadena, L"CV");
-    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+    Abre(dlg, [](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.text(Cadena), L"CV");
         dialogo.press(IDCANCEL);
     });

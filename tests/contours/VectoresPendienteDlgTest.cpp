@@ -100,7 +100,7 @@ TEST_F(VectoresPendienteDlg, ShowsTheRecord) {
         EXPECT_EQ(dialogo.text(TextoEntero), L"2");
         EXPECT_EQ(dialogo.text(FicheroLimite), L"C:\\survey\\edge.dat");
         EXPECT_TRUE(dialogo.checked(Limite));
-        EXPECT_TRUE(ControlesCon(dialogo, WS_DISABLED).empty());
+        EXPECT_EQ(Deshabilitados(dialogo), Controles{});
         dialogo.picture(L"VectoresPendienteDlg");
         dialogo.press(IDCANCEL);
     });
@@ -111,24 +111,18 @@ TEST_F(VectoresPendienteDlg, WithoutABoundaryItsFileStartsDisabled) {
     Abre([](kit::Dialog& dialogo) {
         EXPECT_FALSE(dialogo.checked(Limite));
         EXPECT_EQ(dialogo.text(FicheroLimite), L"C:\\survey\\edge.dat");
-        EXPECT_EQ(ControlesCon(dialogo, WS_DISABLED), (std::vector<int>{FicheroLimite, Buscar}));
+        EXPECT_EQ(Deshabilitados(dialogo), (Controles{FicheroLimite, Buscar}));
         dialogo.press(IDCANCEL);
     });
 }
 
 TEST_F(VectoresPendienteDlg, LegendIsHiddenAndStaysIt) {
     Abre([](kit::Dialog& dialogo) {
-        const auto soloLaLeyenda = [&] {
-            for (const HWND control : ControlesDe(dialogo.handle())) {
-                const int numero = GetDlgCtrlID(control);
-                const bool deLeyenda = numero == Leyenda1 || numero == Leyenda2;
-                EXPECT_EQ(IsWindowVisible(control) == FALSE, deLeyenda) << numero;
-            }
-        };
-        soloLaLeyenda();
+        const Controles leyenda = {Leyenda1, Leyenda2};
+        EXPECT_EQ(Ocultos(dialogo), leyenda);
         dialogo.click(Limite);
         dialogo.click(Limite);
-        soloLaLeyenda();
+        EXPECT_EQ(Ocultos(dialogo), leyenda);
         EXPECT_FALSE(dialogo.text(Leyenda1).empty());
         EXPECT_FALSE(dialogo.text(Leyenda2).empty());
         dialogo.press(IDCANCEL);
@@ -138,7 +132,7 @@ TEST_F(VectoresPendienteDlg, LegendIsHiddenAndStaysIt) {
 TEST_F(VectoresPendienteDlg, OpensInItsOrder) {
     data.m_Limite = FALSE;
     auto conDiario = Dialogo<ConDiario<CVectoresPendienteDlg>>();
-    Abre(conDiario, {}, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "hide 20239", "hide 20240", "M", "S",
                                         "disable 20047", "disable 20085"}));
 }
@@ -237,7 +231,7 @@ TEST_F(VectoresPendienteDlg, ClickCountsWhateverTheNumbersAre) {
 TEST_F(VectoresPendienteDlg, FlagCountsAlsoWhereTheHostRefusesTheExchange) {
     auto dlg = Dialogo<CDesconfiado<CVectoresPendienteDlg>>();
     dlg.rechazado = 2; // the first one opens it
-    Abre(dlg, {}, [](kit::Dialog& dialogo) {
+    Abre(dlg, [](kit::Dialog& dialogo) {
         dialogo.click(Limite);
         EXPECT_FALSE(dialogo.enabled(FicheroLimite));
         EXPECT_FALSE(dialogo.enabled(Buscar));
@@ -251,7 +245,7 @@ TEST_F(VectoresPendienteDlg, AsksTheHostForAFileThatExists) {
     plantilla = reinterpret_cast<CDocTemplate*>(&kit::app);
     kit::app.answerFilePrompt(L"C:\\two words\\edge.dat");
     auto dlg = Dialogo<ConPlantilla>();
-    Abre(dlg, {}, [&](kit::Dialog& dialogo) {
+    Abre(dlg, [&](kit::Dialog& dialogo) {
         dialogo.type(FicheroLimite, L"typed.dat");
         dialogo.press(Buscar);
         // The record's own text, into which what was typed came first.
@@ -565,7 +559,7 @@ TEST_F(VectoresPendienteDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
 TEST_F(VectoresPendienteDlg, OkGoesOnAfterARefusedExchangeOfItsOwn) {
     auto dlg = Dialogo<CDesconfiado<CVectoresPendienteDlg>>();
     dlg.rechazado = 2; // the first one opens it
-    EXPECT_EQ(Abre(dlg, {}, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+    EXPECT_EQ(Abre(dlg, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
 }
 
 // Cancel.

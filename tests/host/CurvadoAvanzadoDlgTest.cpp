@@ -8,7 +8,6 @@
 #include "checks/ConDialogo.h"
 
 #include <filesystem>
-#include <string>
 
 namespace {
 

@@ -37,6 +37,7 @@ END_MESSAGE_MAP()
 BOOL CCambiosPendienteTINDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
+    // Kept: never enabled.
     Cuadros::Habilita(
         *this, FALSE,
         {IDC_CAMBIOS_PENDIENTE_TIN_NOTA_VALOR, IDC_CAMBIOS_PENDIENTE_TIN_NOTA_CADENA});

@@ -131,7 +131,8 @@ void CCurvadoDlg::OnCheckLimite() {
 }
 
 void CCurvadoDlg::OnAvanzado() {
-    // Kept: nothing is exchanged first; the scale is that of its last change that was a number.
+    // Kept: nothing is exchanged first; the scale is that of its last change that was a number. The
+    // host's dialog has no parent.
     double valor1 = m_pData->m_ValorAvanzado1;
     double valor2 = m_pData->m_ValorAvanzado2;
     int porEscala = m_pData->m_AvanzadoPorEscala;
@@ -173,6 +174,8 @@ void CCurvadoDlg::OnCbnSelchangeTipoSuavizado() {
     UpdateData(TRUE);
     const CComboBox& tipos = TiposSuavizado(*this);
     const int tipo = tipos.GetCurSel();
+    // Where no type is selected, as in a language file without types, the controls stay as they
+    // are.
     if (tipo == CB_ERR || tipos.GetCount() == 0)
         return;
     Cuadros::Habilita(
@@ -202,6 +205,7 @@ void CCurvadoDlg::OnOK() {
 
     if (data.m_Escala == 0)
         return Cuadros::Rechaza(*this, IDS_ESCALA_NO_POSITIVA);
+    // Kept: the height of the labels comes before the intervals, their spacing after them.
     if (data.m_TextoCurvas && data.m_TextoValor1 <= 0)
         return Cuadros::Rechaza(*this, IDS_VALOR_TEXTO_NO_POSITIVO);
     if (data.m_Equidistancia >= data.m_EquidistanciaMaestra ||

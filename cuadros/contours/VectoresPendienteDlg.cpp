@@ -43,6 +43,7 @@ END_MESSAGE_MAP()
 BOOL CVectoresPendienteDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_PENDIENTES);
+    // Kept: never shown.
     Cuadros::Muestra(*this, SW_HIDE,
                      {IDC_VECTORES_PENDIENTE_LEYENDA_1, IDC_VECTORES_PENDIENTE_LEYENDA_2});
     UpdateData(FALSE);

@@ -6,8 +6,8 @@
 
 namespace Cuadros {
 
-/// Enables or disables the controls of a dialog with these numbers, in this order. One that has the
-/// focus passes it on to the control before it.
+/// Enables or disables the controls of a dialog with these numbers, in this order. One that is
+/// disabled with the focus on it passes it on to the control before it.
 void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> controles);
 
 /// Shows or hides the controls of a dialog with these numbers, in this order.

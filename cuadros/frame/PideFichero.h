@@ -1,5 +1,5 @@
 // The host's file prompt. A dialog exchanges its controls itself, before it asks and after the user
-// has confirmed: an exchange is seen by the host, so no helper hides one.
+// has confirmed: an exchange is seen by the host, so no function hides one.
 //
 // Where the host's application object is none of `Cotana::CAplicacion`, every prompt answers as if
 // the user had cancelled it.

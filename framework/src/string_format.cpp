@@ -89,7 +89,7 @@ bool IsLongInteger(const CStringT<Ch>& size) {
     return size == "ll" || size == "I64" || size == "j" || (isPointerSized && sizeof(void*) == 8);
 }
 
-/// Prints one specification after the other, `%[flags][width][.precision][size]type`, with
+/// Prints one conversion after the other, `%[flags][width][.precision][size]type`, with
 /// numbers in the place of stars.
 template <typename Ch>
 CStringT<Ch> PrintedPiecewise(const Ch* next, va_list args) {
@@ -99,26 +99,26 @@ CStringT<Ch> PrintedPiecewise(const Ch* next, va_list args) {
             text += *next++;
             continue;
         }
-        CStringT<Ch> specification(*next++);
-        Take(next, "-+ #0", specification);
+        CStringT<Ch> conversion(*next++);
+        Take(next, "-+ #0", conversion);
         if (Skip(next, '*'))
-            AppendNumber(specification, va_arg(args, int));
-        Take(next, "0123456789", specification);
+            AppendNumber(conversion, va_arg(args, int));
+        Take(next, "0123456789", conversion);
         if (Skip(next, '.')) {
             const bool isStar = Skip(next, '*');
             const int precision = isStar ? va_arg(args, int) : 0;
             if (precision >= 0)
-                specification += '.';
+                conversion += '.';
             if (isStar && precision >= 0)
-                AppendNumber(specification, precision);
-            Take(next, "0123456789", specification);
+                AppendNumber(conversion, precision);
+            Take(next, "0123456789", conversion);
         }
         CStringT<Ch> size;
         Take(next, "hlLwjztI3264", size);
-        specification += size;
+        conversion += size;
         const Ch type = *next;
         if (type != 0)
-            specification += *next++;
+            conversion += *next++;
 
         switch (type) {
         case 'd':
@@ -128,13 +128,13 @@ CStringT<Ch> PrintedPiecewise(const Ch* next, va_list args) {
         case 'x':
         case 'X':
             if (IsLongInteger(size))
-                text.AppendFormat(specification, va_arg(args, long long));
+                text.AppendFormat(conversion, va_arg(args, long long));
             else
-                text.AppendFormat(specification, va_arg(args, int));
+                text.AppendFormat(conversion, va_arg(args, int));
             break;
         case 'c':
         case 'C':
-            text.AppendFormat(specification, va_arg(args, int));
+            text.AppendFormat(conversion, va_arg(args, int));
             break;
         case 'a':
         case 'A':
@@ -144,17 +144,17 @@ CStringT<Ch> PrintedPiecewise(const Ch* next, va_list args) {
         case 'F':
         case 'g':
         case 'G':
-            text.AppendFormat(specification, va_arg(args, double));
+            text.AppendFormat(conversion, va_arg(args, double));
             break;
         case 'n':
         case 'p':
         case 's':
         case 'S':
         case 'Z':
-            text.AppendFormat(specification, va_arg(args, void*));
+            text.AppendFormat(conversion, va_arg(args, void*));
             break;
         default:
-            text.AppendFormat(specification);
+            text.AppendFormat(conversion);
         }
     }
     return text;

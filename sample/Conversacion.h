@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "sample/Ficha.h"
-#include "sample/Orden.h"
+#include "sample/Hecho.h"
 #include "sample/Terreno.h"
 #include "sample/Visita.h"
 

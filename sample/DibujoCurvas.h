@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sample/Orden.h"
+#include "sample/Hecho.h"
 #include "sample/Terreno.h"
 
 /// Draws the contours of the terrain as the record of the contour options asks for them, into

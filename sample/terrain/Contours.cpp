@@ -14,8 +14,10 @@
 namespace {
 
 constexpr size_t MostLevels = 10'000;
-constexpr size_t MostPoints = 50'000'000;
+constexpr size_t MostCrossings = 50'000'000;
 constexpr int LevelDigits = 12;
+constexpr double MostSuitable = 50;
+constexpr double FinestSuitable = 0.001; // m
 
 /// A number as a person would write it.
 double Rounded(double number) {
@@ -90,10 +92,18 @@ public:
 
     /// How often a cell is crossed by a level, all in all.
     size_t CountCrossings() {
-        m_First.assign(m_Levels.size() + 1, 0);
-        ForEachCrossing([&](size_t level, Cell) { ++m_First[level + 1]; });
-        for (size_t level = 0; level < m_Levels.size(); ++level)
-            m_First[level + 1] += m_First[level];
+        // By where the levels of a cell begin and end: there may be far more than cells.
+        std::vector<std::int64_t> changes(m_Levels.size() + 1, 0);
+        ForEachCrossed([&](Cell, size_t first, size_t behind) {
+            ++changes[first];
+            --changes[behind];
+        });
+        m_First.assign(1, 0);
+        std::int64_t cells = 0;
+        for (size_t level = 0; level < m_Levels.size(); ++level) {
+            cells += changes[level];
+            m_First.push_back(m_First.back() + cells);
+        }
         return m_First.back();
     }
 
@@ -102,7 +112,10 @@ public:
         // Sorted by their levels, so that a level costs only the cells that it crosses.
         std::vector<Cell> crossed(m_First.back());
         std::vector<size_t> next(m_First.begin(), m_First.end() - 1);
-        ForEachCrossing([&](size_t level, Cell cell) { crossed[next[level]++] = cell; });
+        ForEachCrossed([&](Cell cell, size_t first, size_t behind) {
+            for (size_t level = first; level < behind; ++level)
+                crossed[next[level]++] = cell;
+        });
         m_Pending.assign(static_cast<size_t>(m_CellColumns) * m_CellRows, 0);
 
         for (size_t level = 0; level < m_Levels.size(); ++level) {
@@ -140,8 +153,9 @@ private:
         return {cell.column + Neighbours[side].column, cell.row + Neighbours[side].row};
     }
 
+    /// Gives `take` each cell that levels cross, the first of these, and the one behind the last.
     template <class Take>
-    void ForEachCrossing(const Take& take) const {
+    void ForEachCrossed(const Take& take) const {
         const auto below = [](double elevation, const ContourLevel& level) {
             return elevation < level.elevation;
         };
@@ -152,9 +166,11 @@ private:
                 const auto [lowest, highest] =
                     std::minmax({CornerElevation(cell, 0), CornerElevation(cell, 1),
                                  CornerElevation(cell, 2), CornerElevation(cell, 3)});
-                auto level = std::upper_bound(m_Levels.begin(), m_Levels.end(), lowest, below);
-                for (; level != m_Levels.end() && level->elevation <= highest; ++level)
-                    take(level - m_Levels.begin(), cell);
+                const auto first =
+                    std::upper_bound(m_Levels.begin(), m_Levels.end(), lowest, below);
+                const auto behind = std::upper_bound(first, m_Levels.end(), highest, below);
+                if (first != behind)
+                    take(cell, first - m_Levels.begin(), behind - m_Levels.begin());
             }
         }
     }
@@ -186,10 +202,10 @@ private:
     }
 
     bool IsMiddleAbove(Cell cell) const {
-        return (CornerElevation(cell, 0) + CornerElevation(cell, 1) + CornerElevation(cell, 2) +
-                CornerElevation(cell, 3)) /
-                   4 >=
-               m_Level.elevation;
+        const double sum = (CornerElevation(cell, 0) + CornerElevation(cell, 2)) +
+                           (CornerElevation(cell, 1) + CornerElevation(cell, 3));
+        // Rounded as the level is: a mean that is the level itself must not fall short of it.
+        return Rounded(sum / 4) >= m_Level.elevation;
     }
 
     /// Where a side is crossed: reckoned from its higher end, and so the same for both its cells.
@@ -270,6 +286,17 @@ CString Text(const std::string& ascii) {
 
 } // namespace
 
+double SuitableInterval(const ElevationRange& span) {
+    const double least = std::max((span.high - span.low) / MostSuitable, FinestSuitable);
+    const double power = std::pow(10, std::floor(std::log10(least)));
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        const double interval = Rounded(factor * power);
+        if (interval >= least)
+            return interval;
+    }
+    return Rounded(10 * power);
+}
+
 CString FindContourLevels(const ElevationRange& span, const ContourOptions& options,
                           std::vector<ContourLevel>& levels) {
     if (!(options.interval > 0) || !(options.masterInterval > 0))
@@ -304,9 +331,9 @@ CString TraceContours(const ElevationGrid& grid, const ContourOptions& options,
         return refusal;
     try {
         Tracer tracer(grid, levels);
-        if (tracer.CountCrossings() > MostPoints) {
-            return Text("the contours have more than " + std::to_string(MostPoints) +
-                        " points: choose a larger interval");
+        if (tracer.CountCrossings() > MostCrossings) {
+            return Text("the contours cross more than " + std::to_string(MostCrossings) +
+                        " cells: choose a larger interval");
         }
         contours = tracer.Trace();
         return {};

@@ -74,7 +74,7 @@ private:
         Length(20 + behind, point.y);
         Group(30 + behind, Elevation(elevation));
     }
-    /// Levels are of any fineness, whatever the size of a cell.
+    /// Levels may be far finer than cells.
     static std::string Elevation(double elevation) { return Decimal(elevation, 6); }
 
     void Section(std::string_view name) {

@@ -64,7 +64,7 @@ TEST(AscGridFile, ACornerIsHalfACellOffTheCentre) {
 TEST(AscGridFile, TheHeaderIsInAnyOrderAndCase) {
     ElevationGrid grid;
     EXPECT_EQ(Refused("CELLSIZE 2.5e1\r\nNoData_Value 0\r\nYLLCENTER -2E2\r\n\r\nNRows 2\r\n"
-                      "\tNCOLS\t2 \r\nXllCenter +1.5\r\n0 8\r\n0 8\r\n",
+                      "\tNCOLS\t+2 \r\nXllCenter +1.5\r\n0 8\r\n0 8\r\n",
                       grid),
               "");
     EXPECT_EQ(grid.CellSize(), 25);
@@ -157,6 +157,7 @@ TEST(AscGridFile, NamesTheLineAndWhatIsWrong) {
         {with("ncols", "# hills"), "hills.asc(1): the header key is unknown: #"},
         {with("ncols", "ncols nrows 2"), "hills.asc(1): ncols is not a whole number: nrows"},
         {with("ncols", "ncols 3.5"), "hills.asc(1): ncols is not a whole number: 3.5"},
+        {with("ncols", "ncols +"), "hills.asc(1): ncols is not a whole number: +"},
         {with("ncols", "ncols 1"), "hills.asc(1): ncols is below 2: 1"},
         {with("nrows", "nrows -2"), "hills.asc(2): nrows is below 2: -2"},
         {with("nrows", "nrows 100000001"), "hills.asc(2): nrows is above 100000000: 100000001"},
@@ -248,6 +249,7 @@ TEST(AscGridFile, AFileThatCannotBeReadIsRefusedByName) {
     EXPECT_EQ(ReadAscGridFile(L"no such.asc", grid), L"no such.asc: there is no such file");
     EXPECT_EQ(ReadAscGridFile(L"C:\\windows", grid),
               L"C:\\windows: the file cannot be opened (Windows error 5)");
+    EXPECT_EQ(ReadAscGridFile(L"NUL", grid), L"NUL: this is a device, not a file");
 }
 
 TEST(AscGridFile, ReadsTheTerrainThatComesWithTheSample) {

@@ -87,6 +87,16 @@ std::string LevelsRefused(const ElevationRange& span, const ContourOptions& opti
 
 } // namespace
 
+TEST(ContourLevels, OfTheSuitableIntervalAreAFewDozen) {
+    const struct {
+        double low, high, interval;
+    } cases[] = {{160.21, 395.42, 5}, {0, 50, 1},      {0, 50.01, 2},
+                 {-60, 40, 2},        {0, 100.01, 5},  {-100, 151, 10},
+                 {3, 3, 1e-3},        {0, 0.06, 2e-3}, {-1e9, 1e9, 5e7}};
+    for (const auto& one : cases)
+        EXPECT_EQ(SuitableInterval({one.low, one.high}), one.interval) << one.high;
+}
+
 TEST(ContourLevels, AreTheMultiplesOfBothIntervals) {
     EXPECT_EQ(Found({0, 21}, {5, 7, {}}), (Levels{{0, true},
                                                   {5, false},
@@ -171,6 +181,18 @@ TEST(Contours, AnErrorLeavesThemAsTheyWere) {
     std::vector<Contour> contours(3);
     EXPECT_NE(TraceContours(plane, {0, 1, {}}, contours), L"");
     EXPECT_EQ(contours.size(), 3u);
+}
+
+// Low and high nodes in turn: every cell is crossed by every level but the lowest.
+TEST(Contours, ThatCrossTooManyCellsAreRefused) {
+    std::vector<double> elevations;
+    for (int row = 0; row < 72; ++row) {
+        for (int column = 0; column < 72; ++column)
+            elevations.push_back((row + column) % 2 == 0 ? 0 : 9999);
+    }
+    std::vector<Contour> contours;
+    EXPECT_EQ(TraceContours(ElevationGrid(72, 1, {0, 0}, elevations), {1, 5, {}}, contours),
+              L"the contours cross more than 50000000 cells: choose a larger interval");
 }
 
 // A plane that rises to the east by 1 m in a cell: straight lines from north to south, also where
@@ -304,6 +326,25 @@ TEST(Contours, TheMeanOfItsCornersDecidesHowASaddleTurns) {
             EXPECT_LE(std::abs(point.x) + std::abs(point.y), 95);
         }
         EXPECT_EQ(branch.points.size(), 20u);
+    }
+}
+
+// 0.1 + 7.6 + 3.1 + 9.2 are 20, but 19.999999999999996 as they are added up.
+TEST(Contours, ASaddleWhoseMeanIsTheLevelCountsAsHigherWhicheverWayItIsTurned) {
+    const double ring[] = {0.1, 7.6, 3.1, 9.2}; // with the clock, from the north-west
+    for (int turn = 0; turn < 4; ++turn) {
+        const auto node = [&](int corner) { return ring[(corner + turn) % 4]; };
+        const ElevationGrid saddle(2, 1, {0, 0}, {node(0), node(1), node(3), node(2)});
+        const auto branches = At(saddle, 5);
+        ASSERT_EQ(branches.size(), 2u);
+        // The middle is higher: each branch goes round one of the lower corners.
+        for (const Contour& branch : branches) {
+            ASSERT_EQ(branch.points.size(), 2u);
+            const MapPoint middle = {(branch.points[0].x + branch.points[1].x) / 2,
+                                     (branch.points[0].y + branch.points[1].y) / 2};
+            const int column = middle.x > 0.5, row = middle.y < 0.5;
+            EXPECT_LT(saddle.Elevation(column, row), 5) << "turned " << turn;
+        }
     }
 }
 

@@ -13,6 +13,7 @@
 #include "sample/Recorrido.h"
 #include "sample/Rutas.h"
 #include "sample/terrain/AscGridFile.h"
+#include "sample/terrain/Contours.h"
 
 namespace {
 
@@ -76,6 +77,12 @@ CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
         error = ReadAscGridFile(linea.ficheroRejilla.IsEmpty() ? carpeta + L"\\terrain\\hills.asc"
                                                                : linea.ficheroRejilla,
                                 m_Terreno.modelo);
+    if (error.IsEmpty()) {
+        Cotana::CDataCurvado& curvado = m_Terreno.curvado;
+        curvado.m_Equidistancia =
+            SuitableInterval({m_Terreno.modelo.Lowest(), m_Terreno.modelo.Highest()});
+        curvado.m_EquidistanciaMaestra = 5 * curvado.m_Equidistancia;
+    }
     return error;
 }
 

@@ -22,12 +22,12 @@ constexpr size_t BufferSize = 64 * 1024;
 } // namespace
 
 OutputFile::OutputFile(const CString& name)
-    : m_Name(name), m_Part(name + L".part"),
-      m_Handle(CreateFileW(m_Part, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                           nullptr)) {
+    : m_Name(name), m_Part(name + L".part"), m_Handle(INVALID_HANDLE_VALUE) {
+    m_Buffer.reserve(BufferSize);
+    m_Handle = CreateFileW(m_Part, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
     if (m_Handle == INVALID_HANDLE_VALUE)
         ThrowLastError();
-    m_Buffer.reserve(BufferSize);
 }
 
 OutputFile::~OutputFile() {

@@ -77,8 +77,6 @@ struct Terreno {
         .m_CurvasARespetar2 = L"CNM",
         .m_FicheroLimite = {},
         .m_Escala = 5000,
-        .m_Equidistancia = 5,
-        .m_EquidistanciaMaestra = 25,
     };
     DatosCurvadoTriangulacion curvadoTriangulacion;
     Cotana::CDataVectoresPendiente vectoresPendiente = {

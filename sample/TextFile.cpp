@@ -101,6 +101,11 @@ InputFile::InputFile(const CString& name)
             throw Fault{L"there is no such file"};
         throw Fault{L"the file cannot be opened (Windows error " + std::to_wstring(error) + L")"};
     }
+    // A serial line, for one, might have nothing to say for ever.
+    if (GetFileType(m_Handle) != FILE_TYPE_DISK) {
+        CloseHandle(m_Handle);
+        throw Fault{L"this is a device, not a file"};
+    }
 }
 
 InputFile::~InputFile() {

@@ -58,12 +58,12 @@ Ficha FichaCurvado(const Terreno& terreno) {
 namespace {
 
 /// An elevation, a part of the way up from the model's lowest to its highest, as one reads them in
-/// the dialog.
-std::wstring CotaDelModelo(const kit::Dialog& dialogo, double parte) {
+/// the dialog, and some metres more.
+std::wstring CotaDelModelo(const kit::Dialog& dialogo, double parte, double metros = 0) {
     const double minima = _wtof(dialogo.text(IDC_CURVADO_COTA_MINIMA_MODELO).c_str());
     const double maxima = _wtof(dialogo.text(IDC_CURVADO_COTA_MAXIMA_MODELO).c_str());
     CString cota;
-    cota.Format(L"%.2f", minima + parte * (maxima - minima));
+    cota.Format(L"%.2f", minima + parte * (maxima - minima) + metros);
     return cota.GetString();
 }
 
@@ -78,7 +78,7 @@ void ConduceCurvado(Visita& visita) {
         dialogo.press(IDC_CURVADO_AVANZADO);
 
         dialogo.check(IDC_CURVADO_RANGO_COTA);
-        dialogo.type(IDC_CURVADO_COTA_MINIMA, L"1e6");
+        dialogo.type(IDC_CURVADO_COTA_MINIMA, CotaDelModelo(dialogo, 1, 1));
         dialogo.press(IDOK);
         dialogo.type(IDC_CURVADO_COTA_MINIMA, CotaDelModelo(dialogo, 0.1));
         dialogo.type(IDC_CURVADO_COTA_MAXIMA, CotaDelModelo(dialogo, 0.9));

@@ -12,6 +12,8 @@
 struct Campo {
     CString nombre;
     CString valor;
+
+    bool operator==(const Campo&) const = default;
 };
 
 /// A record's fields, in the order of their declaration.

@@ -50,13 +50,17 @@ Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
         visita.Fotografia(dialogo.handle(),
                           L"The sample host: the conversations, and the record of the chosen one.");
         Elige(dialogo, L"Contours and slopes", L"Contour options");
+        dialogo.press(IDC_LANZADOR_ABRIR); // and cancelled
+        if (dialogo.text(IDC_LANZADOR_RESULTADO) != L"Cancelled.")
+            kit::fail("the launcher does not say that nothing was done");
         dialogo.press(IDC_LANZADOR_ABRIR);
         if (dialogo.text(IDC_LANZADOR_RESULTADO).find(L" drawn") == std::wstring::npos)
             kit::fail("the launcher does not say what was drawn");
         visita.Fotografia(dialogo.handle(), L"The contour options were accepted as they were.");
         dialogo.press(IDCANCEL);
     });
-    visita.Guion().onDialog([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    for (const int boton : {IDCANCEL, IDOK})
+        visita.Guion().onDialog([boton](kit::Dialog& dialogo) { dialogo.press(boton); });
     CLanzadorDlg lanzador(terreno);
     visita.Guion().run([&lanzador] { return lanzador.DoModal(); });
     Parada parada;
@@ -84,6 +88,9 @@ Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Te
         if (hecho.fallo)
             kit::fail(Utf8(hecho.texto));
         parada.hecho = hecho.texto;
+        conversacion.prepara(terreno);
+        if (conversacion.ficha(terreno) != parada.despues)
+            kit::fail("the next opening would not show what was carried out");
         if (!hecho.dibujo.IsEmpty())
             parada.dibujo = terreno.carpetaDibujos + L"\\" + hecho.dibujo;
     }

@@ -15,7 +15,7 @@ for argument in "$@"; do
   case $argument in
     --tour) display= ;;
     '' | -* | /* | ?:*) arguments+=("$argument") ;;
-    *) arguments+=("$CUADROS_CALLER/$argument") ;;
+    *) arguments+=("${CUADROS_CALLER%/}/$argument") ;;
   esac
 done
 set -- ${arguments[@]+"${arguments[@]}"}
@@ -37,7 +37,14 @@ if [ -n "$display" ]; then
   wine "$ejemplo" --drawings build/drawings "$@"
 else
   say "Touring the conversations, without a display"
-  rm -rf build/tour
-  wine "$ejemplo" --tour build/tour "$@" </dev/null
+  # What the last tour has left is lost to the next one, but not to a refused one.
+  rm -rf build/tour.last
+  [ ! -d build/tour ] || mv build/tour build/tour.last
+  wine "$ejemplo" --tour build/tour "$@" </dev/null || {
+    status=$?
+    [ -d build/tour ] || [ ! -d build/tour.last ] || mv build/tour.last build/tour
+    exit "$status"
+  }
+  rm -rf build/tour.last
   say "The page: build/tour/index.html"
 fi

@@ -20,8 +20,9 @@ if(NOT result EQUAL 0)
   message(FATAL_ERROR "exit code ${result}, output: ${output}\nerror: ${error}")
 endif()
 
-# The multiples of 5 m from -54 m to -6 m, a tenth of the way from either end.
-foreach(expected "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "  9 contours and [0-9]+ labels")
+# The multiples of 2 m, which suits the terrain, from -54 m to -6 m, a tenth of the way from either
+# end.
+foreach(expected "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "m_Cadena +\"\" +-> \"CN\"" "  25 contours and [0-9]+ labels")
   if(NOT output MATCHES "${expected}")
     message(FATAL_ERROR "The tour does not say: ${expected}\n${output}")
   endif()

@@ -91,6 +91,16 @@ TEST_F(CambiosPendienteTINDlg, OpensInItsOrder) {
                                         "M", "S", "disable 1"}));
 }
 
+TEST_F(CambiosPendienteTINDlg, RecordThatTheHostHasJustMadeAsksForBothDrawings) {
+    data = {};
+    const auto resultado = Abre([](kit::Dialog& dialogo) {
+        EXPECT_TRUE(dialogo.checked(Dibujo1));
+        EXPECT_TRUE(dialogo.checked(Dibujo2));
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+}
+
 TEST_F(CambiosPendienteTINDlg, OpensInTheMiddleOfItsOwner) {
     CompruebaQueSeCentra();
 }

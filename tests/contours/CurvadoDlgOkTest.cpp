@@ -110,6 +110,16 @@ TEST_F(CurvadoDlgOk, UntouchedRecordComesBackAsItWas) {
     EXPECT_EQ(Campos(data), antes);
 }
 
+TEST_F(CurvadoDlgOk, RecordThatTheHostHasJustMadeIsTaken) {
+    data = {};
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+    EXPECT_EQ(Campos(data), Campos(CDataCurvado()));
+    // It is good also once its labels and the checked type are in use.
+    data.m_TextoCurvas = TRUE;
+    data.m_TipoSuavizado = 2;
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+}
+
 TEST_F(CurvadoDlgOk, DisabledControlsStillComeBack) {
     const auto resultado = Abre([](kit::Dialog& dialogo) {
         dialogo.type(TextoValor1, L"3");

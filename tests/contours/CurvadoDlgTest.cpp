@@ -15,6 +15,7 @@ class CurvadoDlg : public Curvado {};
 
 TEST_F(CurvadoDlg, ShowsTheRecord) {
     Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.caption(), L"Contour Options");
         EXPECT_EQ(dialogo.text(Escala), L"1000");
         EXPECT_EQ(dialogo.text(Equidistancia), L"5");
         EXPECT_EQ(dialogo.text(EquidistanciaMaestra), L"25");
@@ -75,6 +76,18 @@ TEST_F(CurvadoDlg, ShowsTheElevationsOfTheModelWithTwoDecimals) {
             dialogo.press(IDCANCEL);
         });
     }
+}
+
+TEST_F(CurvadoDlg, EachElevationOfTheModelStandsBesideItsBound) {
+    Abre([](kit::Dialog& dialogo) {
+        const auto altura = [&](int control) {
+            const RECT lugar = dialogo.rect(control);
+            return (lugar.top + lugar.bottom) / 2;
+        };
+        EXPECT_NEAR(altura(CotaMinimaModelo), altura(CotaMinima), 3);
+        EXPECT_NEAR(altura(CotaMaximaModelo), altura(CotaMaxima), 3);
+        dialogo.press(IDCANCEL);
+    });
 }
 
 TEST_F(CurvadoDlg, OpensInTheMiddleOfItsOwner) {
@@ -463,12 +476,10 @@ TEST_F(CurvadoDlg, RefusedExchangeOfAClickStillEnables) {
 
 // The type of smoothing and its level.
 
-TEST_F(CurvadoDlg, TypesOfSmoothingHaveNamesOfTheirOwn) {
+TEST_F(CurvadoDlg, TypesOfSmoothingAreInTheirOrder) {
     Abre([](kit::Dialog& dialogo) {
-        const auto tipos = dialogo.combo(TipoSuavizado).texts();
-        EXPECT_GE(tipos.size(), 3U);
-        EXPECT_EQ(std::set(tipos.begin(), tipos.end()).size(), tipos.size());
-        EXPECT_EQ(std::count(tipos.begin(), tipos.end(), L""), 0);
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).texts(),
+                  (std::vector<std::wstring>{L"None", L"Rounded corners", L"Splines"}));
         const LONG estilo = GetWindowLongW(dialogo.control(TipoSuavizado), GWL_STYLE);
         EXPECT_EQ(estilo & 3, CBS_DROPDOWNLIST);
         EXPECT_EQ(estilo & CBS_SORT, 0);
@@ -885,6 +896,48 @@ TEST_F(CurvadoDlg, HostCallsTheHandlersItself) {
         dlg.OnOK();
     });
     EXPECT_EQ(resultado, IDOK);
+}
+
+TEST_F(CurvadoDlg, HandlersFollowTheRecordWhereTheHostChangesIt) {
+    // The host has its say right after each exchange that stores.
+    class CAjustado : public CCurvadoDlg {
+    public:
+        using CCurvadoDlg::CCurvadoDlg;
+
+        std::function<void(CComboBox& tipos)> alGuardar = [](CComboBox&) {};
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override {
+            CCurvadoDlg::DoDataExchange(pDX);
+            if (pDX->m_bSaveAndValidate)
+                alGuardar(*static_cast<CComboBox*>(GetDlgItem(TipoSuavizado)));
+        }
+    };
+    NadaEnUso();
+    auto dlg = Dialogo<CAjustado>();
+    const auto resultado = Abre(dlg, [&](kit::Dialog& dialogo) {
+        const Controles antes = Deshabilitados(dialogo);
+        dlg.alGuardar = [this](CComboBox&) { NadaEnUso(); };
+        for (const Casilla& casilla : Casillas)
+            dialogo.check(casilla.control);
+        EXPECT_EQ(Deshabilitados(dialogo), antes);
+
+        dlg.alGuardar = [](CComboBox& tipos) { tipos.SetCurSel(0); };
+        dialogo.choose(TipoSuavizado, 2);
+        EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 0);
+        for (const int control : DeSuavizado)
+            EXPECT_FALSE(dialogo.enabled(control)) << control;
+
+        dlg.alGuardar = [this](CComboBox&) { data.m_AvanzadoPorEscala = TRUE; };
+        dialogo.append(Escala, L"0");
+        EXPECT_DOUBLE_EQ(data.m_ValorAvanzado1, 0.4);
+        EXPECT_DOUBLE_EQ(data.m_ValorAvanzado2, 2);
+
+        dlg.alGuardar = [](CComboBox& tipos) { tipos.SetCurSel(1); };
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(data.m_TipoSuavizado, 1);
 }
 
 TEST_F(CurvadoDlg, HasNoClassInformationOfItsOwn) {

@@ -137,6 +137,17 @@ TEST_F(VectoresPendienteDlg, OpensInItsOrder) {
                                         "disable 20047", "disable 20085"}));
 }
 
+TEST_F(VectoresPendienteDlg, RecordThatTheHostHasJustMadeLacksItsCodesAlone) {
+    data = {};
+    const auto resultado = Abre({IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
+        dialogo.press(IDOK);
+        dialogo.type(Cadena1, L"SV");
+        dialogo.type(Cadena2, L"SL");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+}
+
 TEST_F(VectoresPendienteDlg, OpensInTheMiddleOfItsOwner) {
     CompruebaQueSeCentra();
 }

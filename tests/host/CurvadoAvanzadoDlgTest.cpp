@@ -62,6 +62,7 @@ TEST_F(CurvadoAvanzadoDlg, ValuesThatFollowTheScaleStartDisabled) {
             EXPECT_EQ(dialogo.text(Valor2), L"2.25");
             EXPECT_FALSE(dialogo.enabled(Valor1));
             EXPECT_FALSE(dialogo.enabled(Valor2));
+            EXPECT_EQ(dialogo.focus(), PorEscala);
             dialogo.picture(L"CurvadoAvanzadoDlg");
             dialogo.press(IDCANCEL);
         });

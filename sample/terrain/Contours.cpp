@@ -202,9 +202,10 @@ private:
     }
 
     bool IsMiddleAbove(Cell cell) const {
+        // The same sum whichever way the cell is turned, and rounded as the level is: a mean that
+        // is the level itself must not fall short of it.
         const double sum = (CornerElevation(cell, 0) + CornerElevation(cell, 2)) +
                            (CornerElevation(cell, 1) + CornerElevation(cell, 3));
-        // Rounded as the level is: a mean that is the level itself must not fall short of it.
         return Rounded(sum / 4) >= m_Level.elevation;
     }
 
@@ -287,7 +288,7 @@ CString Text(const std::string& ascii) {
 } // namespace
 
 double SuitableInterval(const ElevationRange& span) {
-    const double least = std::max((span.high - span.low) / MostSuitable, FinestSuitable);
+    const double least = std::max(Rounded(span.high - span.low) / MostSuitable, FinestSuitable);
     const double power = std::pow(10, std::floor(std::log10(least)));
     for (const double factor : {1.0, 2.0, 5.0}) {
         const double interval = Rounded(factor * power);

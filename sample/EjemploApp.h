@@ -25,7 +25,8 @@ public:
     std::vector<DWORD_PTR> RecogeAyudas();
 
 private:
-    /// Reads the survey and the terrain model; what is wrong with a file, or empty.
+    /// Reads the survey and the terrain model, to which it suits the intervals of the contours;
+    /// what is wrong with a file, or empty.
     CString LeeTerreno(const LineaOrdenes& linea);
 
     Terreno m_Terreno;

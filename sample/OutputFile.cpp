@@ -23,6 +23,7 @@ constexpr size_t BufferSize = 64 * 1024;
 
 OutputFile::OutputFile(const CString& name)
     : m_Name(name), m_Part(name + L".part"), m_Handle(INVALID_HANDLE_VALUE) {
+    // First what may throw: of half an object nobody closes the file.
     m_Buffer.reserve(BufferSize);
     m_Handle = CreateFileW(m_Part, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                            nullptr);

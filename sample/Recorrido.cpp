@@ -43,7 +43,8 @@ void Elige(const kit::Dialog& lanzador, const wchar_t* subsistema, const wchar_t
     arbol.SelectItem(raiz ? busca(arbol.GetChildItem(raiz), titulo) : nullptr);
 }
 
-/// The host's own window, and the contours opened from it: accepted, they are drawn.
+/// The host's own window, and the contours opened from it: cancelled, nothing is done; accepted,
+/// they are drawn.
 Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
     Visita visita(carpeta, L"Lanzador");
     visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {

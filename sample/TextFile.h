@@ -25,7 +25,7 @@ CString Refusal(const CString& file, long long line, const std::wstring& what);
 /// A file that is read from its front.
 class InputFile {
 public:
-    /// Throws a Fault when there is no such file or Windows does not open it.
+    /// Throws a Fault when there is no such file, Windows does not open it, or it is a device.
     explicit InputFile(const CString& name);
     ~InputFile();
     InputFile(const InputFile&) = delete;

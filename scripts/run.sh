@@ -14,7 +14,7 @@ arguments=()
 for argument in "$@"; do
   case $argument in
     --tour) display= ;;
-    '' | -* | /* | ?:*) arguments+=("$argument") ;;
+    '' | -* | /* | ?:* | '\\'*) arguments+=("$argument") ;;
     *) arguments+=("${CUADROS_CALLER%/}/$argument") ;;
   esac
 done
@@ -38,8 +38,10 @@ if [ -n "$display" ]; then
 else
   say "Touring the conversations, without a display"
   # What the last tour has left is lost to the next one, but not to a refused one.
-  rm -rf build/tour.last
-  [ ! -d build/tour ] || mv build/tour build/tour.last
+  if [ -d build/tour ]; then
+    rm -rf build/tour.last
+    mv build/tour build/tour.last
+  fi
   wine "$ejemplo" --tour build/tour "$@" </dev/null || {
     status=$?
     [ -d build/tour ] || [ ! -d build/tour.last ] || mv build/tour.last build/tour

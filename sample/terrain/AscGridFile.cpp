@@ -144,8 +144,9 @@ double NearNumber(std::string_view word, const std::wstring& name) {
 
 int Dimension(std::string_view word, const std::wstring& name) {
     const char* const end = word.data() + word.size();
+    const bool plus = word.starts_with('+') && !word.starts_with("+-");
     int number = 0;
-    const auto [last, error] = std::from_chars(word.data() + word.starts_with('+'), end, number);
+    const auto [last, error] = std::from_chars(word.data() + plus, end, number);
     if (last != end || error == std::errc::invalid_argument)
         throw Fault{name + L" is not a whole number: " + Shown(word)};
     if (word[0] == '-' || (error == std::errc() && number < 2))

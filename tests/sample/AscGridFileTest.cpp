@@ -157,6 +157,7 @@ TEST(AscGridFile, NamesTheLineAndWhatIsWrong) {
         {with("ncols", "# hills"), "hills.asc(1): the header key is unknown: #"},
         {with("ncols", "ncols nrows 2"), "hills.asc(1): ncols is not a whole number: nrows"},
         {with("ncols", "ncols 3.5"), "hills.asc(1): ncols is not a whole number: 3.5"},
+        {with("ncols", "ncols +-3"), "hills.asc(1): ncols is not a whole number: +-3"},
         {with("ncols", "ncols +"), "hills.asc(1): ncols is not a whole number: +"},
         {with("ncols", "ncols 1"), "hills.asc(1): ncols is below 2: 1"},
         {with("nrows", "nrows -2"), "hills.asc(2): nrows is below 2: -2"},

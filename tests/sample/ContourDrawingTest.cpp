@@ -78,7 +78,7 @@ TEST(ContourDrawing, AShorterLineThanTheSpacingHasOneLabelIfThereIsRoom) {
 }
 
 TEST(ContourDrawing, AStepThatIsLostInTheLengthEndsNoLabel) {
-    // The only place is the second leg, which is as long as the text.
+    // Each leg is as long as the text; the second one is tried first.
     const auto labels =
         Labels(DrawingOf({{-6, -6}, {-6, 0}, {0, 0}, {0, 1e-20}}), {2.5, 100, 0, true});
     ASSERT_EQ(labels.size(), 1u);

@@ -57,24 +57,6 @@ inline const CString* CompruebaPregunta(const kit::Dialog& dialogo, const kit::T
     return pregunta.name;
 }
 
-/// A conversation that opens in the middle of the owner that it is given.
-inline void CompruebaCentro(const std::function<INT_PTR(CWnd*)>& abre) {
-    const HWND ventana = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                         60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
-        EXPECT_EQ(dialogo.owner(), ventana);
-        RECT duena{};
-        GetWindowRect(ventana, &duena);
-        const RECT marco = dialogo.rect();
-        EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
-        EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
-        dialogo.press(IDCANCEL);
-    });
-    guion.run([&] { return abre(CWnd::FromHandle(ventana)); });
-    DestroyWindow(ventana);
-}
-
 /// The controls that Tab reaches, from the one with the focus until it comes back to it.
 inline std::vector<int> RecorreConTabulador(const kit::Dialog& dialogo) {
     std::vector<int> recorrido;
@@ -152,6 +134,22 @@ protected:
 
 private:
     int m_Guardados = 0;
+};
+
+/// A dialog of class `Dlg` whose host has its say right after each exchange that saves.
+template <class Dlg>
+class ConRetoque : public Dlg {
+public:
+    using Dlg::Dlg;
+
+    std::function<void()> alGuardar = [] {};
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        Dlg::DoDataExchange(pDX);
+        if (pDX->m_bSaveAndValidate)
+            alGuardar();
+    }
 };
 
 /// A dialog of class `Dlg` with a help of the host's own.

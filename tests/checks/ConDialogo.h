@@ -75,8 +75,23 @@ protected:
         return Abre(dialogo, {}, paso, donde);
     }
 
+    /// The dialog opens in the middle of the owner that it is given.
     void CompruebaQueSeCentra() {
-        CompruebaCentro([this](CWnd* duena) { return Ejecuta(duena); });
+        const HWND ventana =
+            CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 40, 900,
+                            600, nullptr, nullptr, nullptr, nullptr);
+        const auto seCentra = [&](kit::Dialog& dialogo) {
+            EXPECT_EQ(dialogo.owner(), ventana);
+            RECT duena{};
+            GetWindowRect(ventana, &duena);
+            const RECT marco = dialogo.rect();
+            EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
+            EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
+            dialogo.press(IDCANCEL);
+        };
+        Conduce([&] { return Ejecuta(CWnd::FromHandle(ventana)); }, {}, seCentra,
+                kit::Where::current());
+        DestroyWindow(ventana);
     }
 
     /// Enter is OK; Escape and the caption's close box are Cancel.

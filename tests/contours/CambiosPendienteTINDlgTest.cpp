@@ -270,16 +270,9 @@ TEST_F(CambiosPendienteTINDlg, WhatComesBeforeABadValueIsInTheRecord) {
 
 TEST_F(CambiosPendienteTINDlg, OkFollowsTheRecordWhereTheHostChangesIt) {
     // The host never makes the second drawing.
-    class CSinSegundo : public CCambiosPendienteTINDlg {
-    public:
-        using CCambiosPendienteTINDlg::CCambiosPendienteTINDlg;
-
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override {
-            CCambiosPendienteTINDlg::DoDataExchange(pDX);
-            m_pData->m_GenerarDibujo2 = FALSE;
-        }
-    } dlg(data);
+    data.m_GenerarDibujo2 = FALSE;
+    ConRetoque<CCambiosPendienteTINDlg> dlg(data);
+    dlg.alGuardar = [this] { data.m_GenerarDibujo2 = FALSE; };
     Abre(dlg, [](kit::Dialog& dialogo) {
         dialogo.click(Dibujo1);
         EXPECT_FALSE(dialogo.enabled(IDOK));

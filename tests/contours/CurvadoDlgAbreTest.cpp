@@ -42,6 +42,22 @@ protected:
         return AbreYAbre<CCurvadoCodigosDlg>(dialogo, paso, dentro, donde);
     }
 
+    /// The dialog owns the one of the codes, and waits for it.
+    void CompruebaDuenaDeLosCodigos(CCurvadoDlg& dialogo) {
+        HWND debajo = nullptr;
+        AbreYAbre<CCurvadoCodigosDlg>(
+            dialogo,
+            [&](kit::Dialog& abierto) {
+                debajo = abierto.handle();
+                PulsaCodigos(abierto);
+            },
+            [&](kit::Dialog& codigos) {
+                EXPECT_EQ(codigos.owner(), debajo);
+                EXPECT_FALSE(IsWindowEnabled(debajo));
+                codigos.press(IDCANCEL);
+            });
+    }
+
     static void PulsaAvanzado(kit::Dialog& dialogo) {
         dialogo.press(Avanzado);
         dialogo.press(IDCANCEL);
@@ -435,35 +451,15 @@ TEST_F(CurvadoDlgAbre, NothingIsExchangedAroundTheCodes) {
 }
 
 TEST_F(CurvadoDlgAbre, CodesBelongToTheContourOptions) {
-    HWND debajo = nullptr;
-    AbreCodigos(
-        [&](kit::Dialog& dialogo) {
-            debajo = dialogo.handle();
-            PulsaCodigos(dialogo);
-        },
-        [&](kit::Dialog& codigos) {
-            EXPECT_EQ(codigos.owner(), debajo);
-            EXPECT_FALSE(IsWindowEnabled(debajo));
-            codigos.press(IDCANCEL);
-        });
+    auto dlg = Dialogo();
+    CompruebaDuenaDeLosCodigos(dlg);
 }
 
 TEST_F(CurvadoDlgAbre, CodesBelongToTheContourOptionsOfAnotherWindowThanTheMainOneToo) {
     const VentanaPrincipal principal;
     Ventana otra;
     auto dlg = Dialogo(&otra);
-    HWND debajo = nullptr;
-    AbreYAbre<CCurvadoCodigosDlg>(
-        dlg,
-        [&](kit::Dialog& dialogo) {
-            debajo = dialogo.handle();
-            PulsaCodigos(dialogo);
-        },
-        [&](kit::Dialog& codigos) {
-            EXPECT_EQ(codigos.owner(), debajo);
-            EXPECT_FALSE(IsWindowEnabled(debajo));
-            codigos.press(IDCANCEL);
-        });
+    CompruebaDuenaDeLosCodigos(dlg);
 }
 
 TEST_F(CurvadoDlgAbre, CodesHaveTheirOwnHelpAndGiveItBack) {

@@ -900,41 +900,30 @@ TEST_F(CurvadoDlg, HostCallsTheHandlersItself) {
 }
 
 TEST_F(CurvadoDlg, HandlersFollowTheRecordWhereTheHostChangesIt) {
-    // The host has its say right after each exchange that stores.
-    class CAjustado : public CCurvadoDlg {
-    public:
-        using CCurvadoDlg::CCurvadoDlg;
-
-        std::function<void(CComboBox& tipos)> alGuardar = [](CComboBox&) {};
-
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override {
-            CCurvadoDlg::DoDataExchange(pDX);
-            if (pDX->m_bSaveAndValidate)
-                alGuardar(*static_cast<CComboBox*>(GetDlgItem(TipoSuavizado)));
-        }
-    };
     NadaEnUso();
-    auto dlg = Dialogo<CAjustado>();
+    auto dlg = Dialogo<ConRetoque<CCurvadoDlg>>();
+    const auto elige = [&](int tipo) {
+        static_cast<CComboBox*>(dlg.GetDlgItem(TipoSuavizado))->SetCurSel(tipo);
+    };
     const auto resultado = Abre(dlg, [&](kit::Dialog& dialogo) {
         const Controles antes = Deshabilitados(dialogo);
-        dlg.alGuardar = [this](CComboBox&) { NadaEnUso(); };
+        dlg.alGuardar = [this] { NadaEnUso(); };
         for (const Casilla& casilla : Casillas)
             dialogo.check(casilla.control);
         EXPECT_EQ(Deshabilitados(dialogo), antes);
 
-        dlg.alGuardar = [](CComboBox& tipos) { tipos.SetCurSel(0); };
+        dlg.alGuardar = [&] { elige(0); };
         dialogo.choose(TipoSuavizado, 2);
         EXPECT_EQ(dialogo.combo(TipoSuavizado).selected(), 0);
         for (const int control : DeSuavizado)
             EXPECT_FALSE(dialogo.enabled(control)) << control;
 
-        dlg.alGuardar = [this](CComboBox&) { data.m_AvanzadoPorEscala = TRUE; };
+        dlg.alGuardar = [this] { data.m_AvanzadoPorEscala = TRUE; };
         dialogo.append(Escala, L"0");
         EXPECT_DOUBLE_EQ(data.m_ValorAvanzado1, 0.4);
         EXPECT_DOUBLE_EQ(data.m_ValorAvanzado2, 2);
 
-        dlg.alGuardar = [](CComboBox& tipos) { tipos.SetCurSel(1); };
+        dlg.alGuardar = [&] { elige(1); };
         dialogo.press(IDOK);
     });
     EXPECT_EQ(resultado, IDOK);

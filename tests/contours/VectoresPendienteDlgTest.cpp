@@ -349,17 +349,9 @@ TEST_F(VectoresPendienteDlg, ExchangeHasNoLimits) {
 
 TEST_F(VectoresPendienteDlg, BoundaryFollowsTheRecordWhereTheHostChangesIt) {
     // The host knows of no boundaries.
-    class CSinLimite : public CVectoresPendienteDlg {
-    public:
-        using CVectoresPendienteDlg::CVectoresPendienteDlg;
-
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override {
-            CVectoresPendienteDlg::DoDataExchange(pDX);
-            m_pData->m_Limite = FALSE;
-        }
-    };
-    auto dlg = Dialogo<CSinLimite>();
+    data.m_Limite = FALSE;
+    auto dlg = Dialogo<ConRetoque<CVectoresPendienteDlg>>();
+    dlg.alGuardar = [this] { data.m_Limite = FALSE; };
     Abre(dlg, [](kit::Dialog& dialogo) {
         dialogo.check(Limite);
         EXPECT_FALSE(dialogo.enabled(FicheroLimite));

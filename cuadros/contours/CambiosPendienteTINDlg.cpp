@@ -1,8 +1,7 @@
 #include "cuadros/contours/CambiosPendienteTINDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 
@@ -52,7 +51,7 @@ void CCambiosPendienteTINDlg::OnBnClickedGenerarDibujo() {
 }
 
 void CCambiosPendienteTINDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_CAMBIOS_PENDIENTE_TIN));
+    Cuadros::AbreAyuda(IDD_CAMBIOS_PENDIENTE_TIN);
 }
 
 BOOL CCambiosPendienteTINDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

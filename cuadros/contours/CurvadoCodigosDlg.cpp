@@ -1,8 +1,7 @@
 #include "cuadros/contours/CurvadoCodigosDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 
@@ -41,7 +40,7 @@ BOOL CCurvadoCodigosDlg::OnInitDialog() {
 }
 
 void CCurvadoCodigosDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_CURVADO_CODIGOS));
+    Cuadros::AbreAyuda(IDD_CURVADO_CODIGOS);
 }
 
 BOOL CCurvadoCodigosDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

@@ -5,10 +5,8 @@
 #include <cotana/dialogos_dibujo/CurvadoAvanzadoDlg.h>
 
 #include "cuadros/contours/CurvadoCodigosDlg.h"
-#include "cuadros/frame/Ayuda.h"
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
-#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/PideFichero.h"
 #include "cuadros/frame/Signo.h"
 #include "cuadros/resources/ContoursIds.h"
@@ -230,7 +228,7 @@ void CCurvadoDlg::OnOK() {
 }
 
 void CCurvadoDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_CURVADO));
+    Cuadros::AbreAyuda(IDD_CURVADO);
 }
 
 BOOL CCurvadoDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

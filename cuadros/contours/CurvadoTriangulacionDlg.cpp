@@ -1,7 +1,6 @@
 #include "cuadros/contours/CurvadoTriangulacionDlg.h"
 
-#include "cuadros/frame/Icono.h"
-#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Signo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"

@@ -1,9 +1,7 @@
 #include "cuadros/contours/VectoresPendienteDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
-#include "cuadros/frame/Mensaje.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/PideFichero.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
@@ -83,7 +81,7 @@ void CVectoresPendienteDlg::OnOK() {
 }
 
 void CVectoresPendienteDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_VECTORES_PENDIENTE));
+    Cuadros::AbreAyuda(IDD_VECTORES_PENDIENTE);
 }
 
 BOOL CVectoresPendienteDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

@@ -1,6 +1,6 @@
 #include "cuadros/frame/Listas.h"
 
-#include "cuadros/frame/Texto.h"
+#include "cuadros/frame/Dialogo.h"
 
 namespace Cuadros {
 

@@ -1,7 +1,6 @@
 #include "cuadros/triangulation/LimpiarRelieveDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/ValoresLimpieza.h"
@@ -39,7 +38,7 @@ void CLimpiarRelieveDlg::OnOK() {
 }
 
 void CLimpiarRelieveDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_LIMPIAR_RELIEVE));
+    Cuadros::AbreAyuda(IDD_LIMPIAR_RELIEVE);
 }
 
 BOOL CLimpiarRelieveDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

@@ -1,7 +1,6 @@
 #include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/ValoresLimpieza.h"
@@ -41,7 +40,7 @@ void CLimpiarRelieveRangoZDlg::OnOK() {
 }
 
 void CLimpiarRelieveRangoZDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_LIMPIAR_RELIEVE_RANGO_Z));
+    Cuadros::AbreAyuda(IDD_LIMPIAR_RELIEVE_RANGO_Z);
 }
 
 BOOL CLimpiarRelieveRangoZDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

@@ -1,8 +1,7 @@
 #include "cuadros/triangulation/SuavizarTINDlg.h"
 
-#include "cuadros/frame/Ayuda.h"
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
@@ -43,7 +42,7 @@ void CSuavizarTINDlg::OnBnClickedCheckIterar() {
 }
 
 void CSuavizarTINDlg::OnHelp() {
-    Cuadros::AbreAyuda(Cuadros::ContextoAyuda(IDD_SUAVIZAR_TIN));
+    Cuadros::AbreAyuda(IDD_SUAVIZAR_TIN);
 }
 
 BOOL CSuavizarTINDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {

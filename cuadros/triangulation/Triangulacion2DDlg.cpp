@@ -1,7 +1,7 @@
 #include "cuadros/triangulation/Triangulacion2DDlg.h"
 
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"

@@ -1,9 +1,8 @@
 #include "cuadros/triangulation/Triangulacion3DDiscoDlg.h"
 
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/PideFichero.h"
-#include "cuadros/frame/Texto.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"

@@ -3,9 +3,8 @@
 #include <vector>
 
 #include "cuadros/frame/Controles.h"
-#include "cuadros/frame/Icono.h"
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
-#include "cuadros/frame/Mensaje.h"
 #include "cuadros/frame/Signo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
@@ -103,8 +102,7 @@ BOOL CTriangulacionDlg::OnInitDialog() {
     // OnItemchangedListaCodigos, and after the last one every code is a breakline.
     Cuadros::SeleccionaFilas(m_ListaCodigos, m_pData->m_Codigos.Cantidad(), true);
     OnCheckRuptura();
-    UpdateData(TRUE);
-    Cuadros::Habilita(*this, m_pData->m_NoUnirCurvas, {IDC_TRIANGULACION_DISTANCIA_NO_UNIR});
+    OnCheckNoUnirCurvas();
     HabilitaAceptar();
     return TRUE;
 }

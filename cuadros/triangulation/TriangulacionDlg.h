@@ -23,6 +23,9 @@ public:
     ~CTriangulacionDlg() override;
 
     void DoDataExchange(CDataExchange* pDX) override;
+    DECLARE_MESSAGE_MAP()
+
+public:
     BOOL OnInitDialog() override;
 
     afx_msg void OnItemchangedListaCodigos(NMHDR* pNMHDR, LRESULT* pResult);
@@ -42,8 +45,6 @@ public:
     void ActualizaRupturas();
 
 protected:
-    DECLARE_MESSAGE_MAP()
-
     CDataTriangulacion* m_pData;
     CListaControlMFC m_ListaCodigos;
     CListaControlMFC m_ListaRupturas;

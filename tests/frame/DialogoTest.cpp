@@ -1,7 +1,11 @@
-// A dialog comes up in the middle of its owner, with its icon in the caption.
-#include "cuadros/frame/Icono.h"
+// A dialog comes up in the middle of its owner, with its icon in the caption. The user presses OK,
+// and it refuses what he entered: a box says why, and when it is read the dialog is there as
+// before. He asks for help, and the host's help file opens at the page of the dialog.
+#include "cuadros/frame/Dialogo.h"
 
 #include "DialogoPrueba.h"
+#include "OtraAplicacion.h"
+#include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
 namespace {
@@ -12,7 +16,7 @@ HICON IconoDe(const kit::Dialog& vista, WPARAM cual) {
 
 } // namespace
 
-TEST(Icono, IsTheSmallOneOnly) {
+TEST(Dialogo, HasItsIconAsTheSmallOneOnly) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { Cuadros::PonIcono(prueba, IDI_PRUEBA); });
     kit::Script script;
     script.onDialog([](kit::Dialog& vista) {
@@ -25,7 +29,7 @@ TEST(Icono, IsTheSmallOneOnly) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
-TEST(Icono, NumberThatNoModuleHasLeavesNone) {
+TEST(Dialogo, HasNoIconWhereNoModuleHasTheNumber) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { Cuadros::PonIcono(prueba, 29999); });
     kit::Script script;
     script.onDialog([](kit::Dialog& vista) {
@@ -35,7 +39,7 @@ TEST(Icono, NumberThatNoModuleHasLeavesNone) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
-TEST(Icono, DialogIsCentredOnItsOwner) {
+TEST(Dialogo, IsCentredOnItsOwner) {
     CDialogoPrueba dentro(
         [](CDialogoPrueba& prueba) { Cuadros::CentraConIcono(prueba, IDI_PRUEBA); });
     CDialogoPrueba fuera([](CDialogoPrueba& prueba) {
@@ -57,4 +61,39 @@ TEST(Icono, DialogIsCentredOnItsOwner) {
         vista.press(IDCANCEL);
     });
     EXPECT_EQ(script.run([&] { return fuera.DoModal(); }), IDCANCEL);
+}
+
+TEST(Dialogo, RefusesInABoxThatTheDialogOwns) {
+    CDialogoPrueba dialogo(NadaAlAbrir);
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) { Cuadros::Rechaza(prueba, IDS_PRUEBA_MENSAJE); });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.focusOn(IDC_PRUEBA_TEXTO);
+        vista.command(IDOK);
+        EXPECT_EQ(vista.focus(), IDC_PRUEBA_TEXTO);
+        vista.press(IDCANCEL);
+    });
+    script.expectMessage(L"The caption of messages", L"Something is wrong.", MB_ICONERROR)
+        .buttons(MB_OK)
+        .ownedByDialog();
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Dialogo, HelpContextIsTheTemplateNumberAboveItsBase) {
+    EXPECT_EQ(Cuadros::ContextoAyuda(19011), 150083U);
+    EXPECT_EQ(Cuadros::ContextoAyuda(20107), 151179U);
+    EXPECT_EQ(Cuadros::ContextoAyuda(38132), 169204U);
+}
+
+TEST(Dialogo, HelpIsAskedOfTheHostsApplication) {
+    Cuadros::AbreAyuda(19001);
+    EXPECT_EQ(kit::app.takeHelpRequests(), (std::vector<kit::HelpRequest>{{150073, 15}}));
+}
+
+TEST(Dialogo, HostWithoutApplicationObjectGivesNoHelp) {
+    {
+        const OtraAplicacion ninguna(nullptr);
+        Cuadros::AbreAyuda(19001);
+    }
+    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
 }

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <thread>
 
 using kit::Dialog;
 using kit::Script;
@@ -22,36 +23,28 @@ std::wstring temporaryPath(const std::wstring& name) {
     return kit::environment(L"TEMP") + L"\\" + name + std::to_wstring(GetCurrentProcessId());
 }
 
-/// Decodes PNG file contents to RGB rows.
+/// A PNG file as the system's decoder reads it.
 class Decoded {
 public:
-    explicit Decoded(const Bytes& png) {
+    explicit Decoded(const std::wstring& path) {
         CoInitialize(nullptr);
         IWICImagingFactory* factory = nullptr;
         CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                          IID_IWICImagingFactory, reinterpret_cast<void**>(&factory));
-        IWICStream* stream = nullptr;
-        factory->CreateStream(&stream);
-        stream->InitializeFromMemory(const_cast<BYTE*>(png.data()), static_cast<DWORD>(png.size()));
         IWICBitmapDecoder* decoder = nullptr;
-        result = factory->CreateDecoderFromStream(stream, nullptr, WICDecodeMetadataCacheOnDemand,
-                                                  &decoder);
+        result = factory->CreateDecoderFromFilename(path.c_str(), nullptr, GENERIC_READ,
+                                                    WICDecodeMetadataCacheOnDemand, &decoder);
         if (SUCCEEDED(result)) {
             IWICBitmapFrameDecode* frame = nullptr;
-            IWICBitmapSource* converted = nullptr;
             decoder->GetFrame(0, &frame);
             frame->GetSize(&width, &height);
-            WICConvertBitmapSource(GUID_WICPixelFormat24bppBGR, frame, &converted);
-            rgb.resize(static_cast<std::size_t>(width) * height * 3);
-            result = converted->CopyPixels(nullptr, width * 3, static_cast<UINT>(rgb.size()),
-                                           rgb.data());
-            for (std::size_t i = 0; i < rgb.size(); i += 3)
-                std::swap(rgb[i], rgb[i + 2]);
-            converted->Release();
+            frame->GetPixelFormat(&format);
+            bgr.resize(static_cast<std::size_t>(width) * height * 3);
+            result =
+                frame->CopyPixels(nullptr, width * 3, static_cast<UINT>(bgr.size()), bgr.data());
             frame->Release();
             decoder->Release();
         }
-        stream->Release();
         factory->Release();
         CoUninitialize();
     }
@@ -59,7 +52,8 @@ public:
     HRESULT result = E_FAIL;
     UINT width = 0;
     UINT height = 0;
-    Bytes rgb;
+    WICPixelFormatGUID format = {};
+    Bytes bgr; ///< blue, green and red of each pixel, rows from the top
 };
 
 Bytes readFile(const std::wstring& path) {
@@ -70,29 +64,63 @@ Bytes readFile(const std::wstring& path) {
 } // namespace
 
 TEST(Png, ComesBackFromTheSystemsDecoderAsItWas) {
+    const std::wstring path = temporaryPath(L"kit-png");
     std::mt19937 random(1);
     for (const int colours : {1, 2, 256}) {
-        Bytes rgb(37 * 19 * 3);
-        for (std::uint8_t& byte : rgb)
-            byte = static_cast<std::uint8_t>(random() % colours * 255 / colours);
-        const Decoded decoded(kit::encodePng(rgb, 37, 19));
+        const auto byte = [&] { return static_cast<BYTE>(random() % colours * 255 / colours); };
+        std::vector<RGBQUAD> pixels(37 * 19);
+        Bytes bgr;
+        for (RGBQUAD& pixel : pixels) {
+            pixel = {byte(), byte(), byte(), byte()}; // the last means nothing
+            bgr.insert(bgr.end(), {pixel.rgbBlue, pixel.rgbGreen, pixel.rgbRed});
+        }
+        ASSERT_TRUE(kit::writePng(path, pixels, 37, 19));
+        const Decoded decoded(path);
         ASSERT_EQ(decoded.result, S_OK) << colours << " colours";
         EXPECT_EQ(decoded.width, 37U);
         EXPECT_EQ(decoded.height, 19U);
-        EXPECT_EQ(decoded.rgb, rgb);
+        EXPECT_EQ(decoded.format, GUID_WICPixelFormat24bppBGR);
+        EXPECT_EQ(decoded.bgr, bgr);
     }
+    DeleteFileW(path.c_str());
 }
 
-TEST(Png, IsSmallWhereRowsRepeat) {
-    Bytes row(400 * 3);
-    for (std::size_t i = 0; i < row.size(); ++i)
-        row[i] = static_cast<std::uint8_t>(i * i >> 3);
-    Bytes rgb;
-    for (int y = 0; y < 300; ++y)
-        rgb.insert(rgb.end(), row.begin(), row.end());
-    const Bytes png = kit::encodePng(rgb, 400, 300);
-    EXPECT_LT(png.size(), rgb.size() / 40);
-    EXPECT_EQ(Decoded(png).rgb, rgb);
+TEST(Png, IsSmallWhereRowsRepeatAndAlwaysTheSame) {
+    const std::wstring path = temporaryPath(L"kit-png");
+    std::vector<RGBQUAD> pixels(400 * 300);
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        const std::size_t x = i % 400;
+        pixels[i] = {static_cast<BYTE>(x * x >> 3), static_cast<BYTE>(x), 0, 0};
+    }
+    ASSERT_TRUE(kit::writePng(path, pixels, 400, 300));
+    const Bytes png = readFile(path);
+    EXPECT_LT(png.size(), pixels.size() * 3 / 40);
+    ASSERT_TRUE(kit::writePng(path, pixels, 400, 300)) << "over the one that is there";
+    EXPECT_EQ(readFile(path), png);
+    DeleteFileW(path.c_str());
+}
+
+TEST(Png, IsWrittenByAnyThreadWhichKeepsItsOwnCom) {
+    const std::wstring path = temporaryPath(L"kit-png");
+    const std::vector<RGBQUAD> pixels(4);
+    // Nothing, one form of COM, the other.
+    for (const int form : {-1, int{COINIT_MULTITHREADED}, int{COINIT_APARTMENTTHREADED}}) {
+        bool written = false;
+        HRESULT after = E_FAIL;
+        std::thread([&] {
+            if (form >= 0)
+                CoInitializeEx(nullptr, form);
+            written = kit::writePng(path, pixels, 2, 2);
+            after = CoInitializeEx(nullptr, form >= 0 ? form : COINIT_MULTITHREADED);
+            CoUninitialize();
+            if (form >= 0)
+                CoUninitialize();
+        }).join();
+        EXPECT_TRUE(written) << "form " << form;
+        EXPECT_EQ(after, form >= 0 ? S_FALSE : S_OK) << "form " << form;
+        EXPECT_EQ(Decoded(path).width, 2U) << "form " << form;
+        DeleteFileW(path.c_str());
+    }
 }
 
 TEST(Picture, ShowsTheWholeWindowWithItsFrame) {
@@ -111,7 +139,7 @@ TEST(Picture, ShowsTheWholeWindowWithItsFrame) {
     });
     script.run([&] { return dialog.open(); });
 
-    const Decoded picture(readFile(path));
+    const Decoded picture(path);
     DeleteFileW(path.c_str());
     ASSERT_EQ(picture.result, S_OK);
     ASSERT_EQ(picture.width, static_cast<UINT>(rect.right - rect.left));
@@ -119,7 +147,7 @@ TEST(Picture, ShowsTheWholeWindowWithItsFrame) {
     const auto pixel = [&](LONG x, LONG y) {
         const std::size_t at =
             (static_cast<std::size_t>(y - rect.top) * picture.width + (x - rect.left)) * 3;
-        return RGB(picture.rgb[at], picture.rgb[at + 1], picture.rgb[at + 2]);
+        return RGB(picture.bgr[at + 2], picture.bgr[at + 1], picture.bgr[at]);
     };
     EXPECT_EQ(pixel(edit.right - 10, edit.top + 5), GetSysColor(COLOR_WINDOW)) << "the edit";
     EXPECT_EQ(pixel(edit.right + 3, edit.top + 5), GetSysColor(COLOR_BTNFACE)) << "the dialog";

@@ -2,14 +2,14 @@
 
 #include "kit/picture/Png.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <vector>
 
 namespace kit {
 namespace {
 
-/// The pixels of a window with its frame as RGB rows from the top; empty when it has none.
-std::vector<std::uint8_t> pixelsOf(HWND window, int width, int height) {
+/// The pixels of a window with its frame, rows from the top; empty when it has none.
+std::vector<RGBQUAD> pixelsOf(HWND window, int width, int height) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = width;
@@ -29,31 +29,16 @@ std::vector<std::uint8_t> pixelsOf(HWND window, int width, int height) {
     const BOOL copied = BitBlt(memory, 0, 0, width, height, source, 0, 0, SRCCOPY);
     GdiFlush();
 
-    std::vector<std::uint8_t> rgb;
+    std::vector<RGBQUAD> pixels;
     if (copied) {
-        const auto* pixel = static_cast<const RGBQUAD*>(bits);
-        const auto* const end = pixel + static_cast<std::size_t>(width) * height;
-        rgb.reserve((end - pixel) * 3);
-        for (; pixel != end; ++pixel)
-            rgb.insert(rgb.end(), {pixel->rgbRed, pixel->rgbGreen, pixel->rgbBlue});
+        const auto* const first = static_cast<const RGBQUAD*>(bits);
+        pixels.assign(first, first + static_cast<std::size_t>(width) * height);
     }
     SelectObject(memory, former);
     DeleteDC(memory);
     ReleaseDC(window, source);
     DeleteObject(bitmap);
-    return rgb;
-}
-
-bool writeFile(const std::wstring& path, const std::vector<std::uint8_t>& contents) {
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return false;
-    DWORD written = 0;
-    const BOOL ok =
-        WriteFile(file, contents.data(), static_cast<DWORD>(contents.size()), &written, nullptr);
-    CloseHandle(file);
-    return ok && written == contents.size();
+    return pixels;
 }
 
 } // namespace
@@ -73,8 +58,7 @@ bool savePicture(HWND window, const Text& path) {
         RedrawWindow(window, nullptr, nullptr,
                      RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     }
-    const std::vector<std::uint8_t> rgb = pixelsOf(window, width, height);
-    return !rgb.empty() && writeFile(path, encodePng(rgb, width, height));
+    return writePng(path, pixelsOf(window, width, height), width, height);
 }
 
 } // namespace kit

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <cstdint>
+#include "kit/picture/Text.h"
+
+#include <windows.h>
+
 #include <span>
-#include <vector>
 
 namespace kit {
 
-/// An RGB picture, 3 bytes per pixel, rows from the top without padding, as PNG file contents.
-std::vector<std::uint8_t> encodePng(std::span<const std::uint8_t> rgb, int width, int height);
-
-/// A zlib stream of the bytes (fixed Huffman codes, matches found by hashing).
-std::vector<std::uint8_t> compress(std::span<const std::uint8_t> bytes);
+/// Writes pixels, rows from the top, as a PNG file of 24 bits a pixel, by the system's encoder.
+/// Any thread may call it, whether or not it has initialised COM.
+/// \return false when there are no pixels or the file cannot be written.
+bool writePng(const Text& path, std::span<const RGBQUAD> pixels, int width, int height);
 
 } // namespace kit

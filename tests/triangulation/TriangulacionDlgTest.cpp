@@ -10,6 +10,7 @@
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
+#include <cmath>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -720,6 +721,21 @@ TEST_F(TriangulacionDlg, OkAfterABadNumberTakesTheOldRowsOfTheTrimmedTable) {
     // The third row is beyond the two entries that the first OK left.
     EXPECT_EQ(CodigosDe(data.m_Codigos), Textos{L"RD"});
     EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR"}));
+}
+
+TEST_F(TriangulacionDlg, NumberOfTheRecordThatIsNotFiniteIsRefusedByEachExchangeOfTheOpening) {
+    data.m_LimiteSuperior = HUGE_VAL;
+    kit::Script guion;
+    // Two for each of the four codes, one for each box that enables others. The dialog is hidden yet.
+    for (int i = 0; i < 2 * 4 + 2; ++i)
+        guion.expectMessage(AfxGetAppName(), TextoDe(AFX_IDP_PARSE_REAL), MB_ICONEXCLAMATION)
+            .buttons(MB_OK);
+    guion.onDialog([](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_LIMITE_SUPERIOR, L"300");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(guion.run([this] { return Ejecuta(nullptr); }), IDOK);
+    EXPECT_EQ(data.m_LimiteSuperior, 300);
 }
 
 TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {

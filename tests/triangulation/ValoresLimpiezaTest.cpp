@@ -6,6 +6,7 @@
 #include "cuadros/resources/IconIds.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <type_traits>
 #include <vector>
@@ -71,6 +72,15 @@ TYPED_TEST(ValoresLimpieza, LargestNumbersComeBack) {
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(this->data.m_ValorA, 1e300);
     EXPECT_EQ(this->data.m_ValorB, -1e300);
+}
+
+TYPED_TEST(ValoresLimpieza, NumberThatIsNotFiniteComesBackAsOneThatIs) {
+    this->data.m_ValorA = HUGE_VAL;
+    this->data.m_ValorB = std::nan("");
+    const auto resultado = this->Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_TRUE(std::isfinite(this->data.m_ValorA));
+    EXPECT_TRUE(std::isfinite(this->data.m_ValorB));
 }
 
 TYPED_TEST(ValoresLimpieza, LettersAndNothingAreZero) {

@@ -726,7 +726,8 @@ TEST_F(TriangulacionDlg, OkAfterABadNumberTakesTheOldRowsOfTheTrimmedTable) {
 TEST_F(TriangulacionDlg, NumberOfTheRecordThatIsNotFiniteIsRefusedByEachExchangeOfTheOpening) {
     data.m_LimiteSuperior = HUGE_VAL;
     kit::Script guion;
-    // Two for each of the four codes, one for each box that enables others. The dialog is hidden yet.
+    // Two for each of the four codes, one for each box that enables others. The dialog is hidden
+    // yet.
     for (int i = 0; i < 2 * 4 + 2; ++i)
         guion.expectMessage(AfxGetAppName(), TextoDe(AFX_IDP_PARSE_REAL), MB_ICONEXCLAMATION)
             .buttons(MB_OK);

@@ -14,7 +14,8 @@ CCambiosPendienteTINDlg::~CCambiosPendienteTINDlg() = default;
 
 void CCambiosPendienteTINDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    // What is never refused comes first: OK follows the boxes whatever the numbers are.
+    // An exchange ends at the first number that it refuses. So the boxes come first: OK follows
+    // them even then.
     // clang-format off
     DDX_Check(pDX, IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_1, m_pData->m_GenerarDibujo1);
     DDX_Check(pDX, IDC_CAMBIOS_PENDIENTE_TIN_DIBUJO_2, m_pData->m_GenerarDibujo2);
@@ -36,7 +37,7 @@ END_MESSAGE_MAP()
 BOOL CCambiosPendienteTINDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
-    // Kept: never enabled.
+    // Kept: these two notes are never enabled.
     Cuadros::Habilita(
         *this, FALSE,
         {IDC_CAMBIOS_PENDIENTE_TIN_NOTA_VALOR, IDC_CAMBIOS_PENDIENTE_TIN_NOTA_CADENA});

@@ -31,7 +31,7 @@ END_MESSAGE_MAP()
 BOOL CCurvadoCodigosDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_CURVADO);
-    // Kept: never shown.
+    // Kept: these figures are never shown.
     Cuadros::Muestra(*this, SW_HIDE,
                      {IDC_CURVADO_CODIGOS_NUMERO_1, IDC_CURVADO_CODIGOS_NUMERO_2,
                       IDC_CURVADO_CODIGOS_NUMERO_3, IDC_CURVADO_CODIGOS_NUMERO_4,

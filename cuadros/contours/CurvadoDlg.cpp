@@ -47,8 +47,8 @@ CCurvadoDlg::~CCurvadoDlg() = default;
 
 void CCurvadoDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    // What is never refused comes first, then the scale: a click counts, a file name is there for
-    // the prompt, and the advanced values follow the scale, whatever the other numbers are.
+    // An exchange ends at the first number that it refuses. So the boxes and texts, which it never
+    // refuses, come first, and then the scale: boxes, file name and scale are read in any case.
     // clang-format off
     DDX_Check(pDX, IDC_CURVADO_TEXTO_CURVAS,          m_pData->m_TextoCurvas);
     DDX_Check(pDX, IDC_CURVADO_LIMITE,                m_pData->m_Limite);
@@ -195,10 +195,11 @@ void CCurvadoDlg::OnCheckRangoCota() {
 }
 
 void CCurvadoDlg::OnOK() {
-    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
+    // base class's OK refuses the text a second time.
     UpdateData(TRUE);
     const Cotana::CDataCurvado& data = *m_pData;
-    // Kept: of a hidden list too, and -1 where none is selected.
+    // Kept: the type is read from a hidden list too, and is -1 where none is selected.
     m_pData->m_TipoSuavizado = TiposSuavizado(*this).GetCurSel();
 
     if (data.m_Escala == 0)
@@ -214,11 +215,12 @@ void CCurvadoDlg::OnOK() {
         return Cuadros::Rechaza(*this, IDS_SEGUNDO_VALOR_NO_POSITIVO);
     if (data.m_Limite && data.m_FicheroLimite.IsEmpty())
         return Cuadros::Rechaza(*this, IDS_FICHERO_LIMITE_OBLIGATORIO);
-    // Kept: of the third type alone, although every type but the first has a level.
+    // Kept: the level is checked for the third type alone, although every type but the first has
+    // one.
     if (data.m_TipoSuavizado == SuavizadoConNivel &&
         (data.m_NivelSuavizado < NivelMinimo || data.m_NivelSuavizado > NivelMaximo))
         return Cuadros::Rechaza(*this, IDS_NIVEL_SUAVIZADO_FUERA);
-    // The range overlaps the model: it may go beyond it, and be a single elevation.
+    // The range has to overlap the model's elevations: it may go beyond them, and be a single one.
     if (data.m_RangoCota &&
         (m_CotaMinimaModelo > data.m_CotaMaxima || data.m_CotaMinima > m_CotaMaximaModelo ||
          data.m_CotaMinima > data.m_CotaMaxima))

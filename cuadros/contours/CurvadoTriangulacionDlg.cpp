@@ -32,7 +32,8 @@ BOOL CCurvadoTriangulacionDlg::OnInitDialog() {
 }
 
 void CCurvadoTriangulacionDlg::OnOK() {
-    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
+    // base class's OK refuses the text a second time.
     UpdateData(TRUE);
     // Kept: where both are wrong, only the interval is refused.
     if (Cuadros::Signo(m_Equidistancia) != 1)

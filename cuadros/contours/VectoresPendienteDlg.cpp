@@ -17,8 +17,8 @@ CVectoresPendienteDlg::~CVectoresPendienteDlg() = default;
 
 void CVectoresPendienteDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    // What is never refused comes first: a click counts, and a file name is there for the prompt,
-    // whatever the numbers are.
+    // An exchange ends at the first number that it refuses. So the box and the texts come first:
+    // they are read in any case.
     // clang-format off
     DDX_Check(pDX, IDC_VECTORES_PENDIENTE_LIMITE,         m_pData->m_Limite);
     DDX_Text (pDX, IDC_VECTORES_PENDIENTE_CADENA_1,       m_pData->m_Cadena1);
@@ -41,7 +41,7 @@ END_MESSAGE_MAP()
 BOOL CVectoresPendienteDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_PENDIENTES);
-    // Kept: never shown.
+    // Kept: this legend is never shown.
     Cuadros::Muestra(*this, SW_HIDE,
                      {IDC_VECTORES_PENDIENTE_LEYENDA_1, IDC_VECTORES_PENDIENTE_LEYENDA_2});
     UpdateData(FALSE);
@@ -62,7 +62,8 @@ void CVectoresPendienteDlg::OnCheckLimite() {
 }
 
 void CVectoresPendienteDlg::OnOK() {
-    // Kept: a number that does not convert is checked as it was before, and refused again below.
+    // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
+    // base class's OK refuses the text a second time.
     UpdateData(TRUE);
     const Cotana::CDataVectoresPendiente& data = *m_pData;
 

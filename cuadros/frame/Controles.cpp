@@ -5,8 +5,8 @@ namespace Cuadros {
 void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> controles) {
     for (const int numero : controles) {
         CWnd* const control = dialogo.GetDlgItem(numero);
-        // As of an edit whose text was just refused: disabled with the focus, it would leave the
-        // keyboard to nobody.
+        // A control that is disabled while it has the focus (an edit whose text was just refused)
+        // would leave the keyboard to nobody.
         if (!habilitados && control == CWnd::GetFocus()) {
             constexpr WPARAM anterior = TRUE;
             dialogo.SendMessage(WM_NEXTDLGCTL, anterior);

@@ -14,7 +14,7 @@ void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas) {
 }
 
 int InsertaFila(CListCtrl& lista, int indice, const CString& texto) {
-    // Kept: the list shows no more, whatever the record holds.
+    // Kept: a longer text is cut in the list, never in the record.
     constexpr int maximo = 259;
     constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
     constexpr UINT primeraImagenDeEstado = INDEXTOSTATEIMAGEMASK(1);
@@ -32,7 +32,7 @@ ListaSinDibujar::~ListaSinDibujar() {
 }
 
 void SeleccionaFilas(CListCtrl& lista, unsigned int filas, bool seleccionadas) {
-    // The complement of the bit, under the bit's own mask, clears it.
+    // The mask names the one bit that changes: any state without that bit clears it.
     const UINT estado = seleccionadas ? LVIS_SELECTED : ~UINT{LVIS_SELECTED};
     for (unsigned int i = 0; i < filas; ++i)
         lista.SetItemState(static_cast<int>(i), estado, LVIS_SELECTED);

@@ -39,7 +39,8 @@
 #define IDC_CURVADO_CURVAS_A_RESPETAR_2   20084
 
 // CCurvadoCodigosDlg
-// The numbers are never shown; 20042 is not among them.
+// The figures before the codes (NUMERO_1 to NUMERO_5) are never shown. 20042, between two of them,
+// is the button of CCurvadoDlg that opens this dialog.
 #define IDD_CURVADO_CODIGOS          20002
 #define IDC_CURVADO_CODIGOS_CODIGO_1 20083
 #define IDC_CURVADO_CODIGOS_CODIGO_2 20084

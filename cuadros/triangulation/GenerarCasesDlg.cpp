@@ -56,7 +56,7 @@ void CGenerarCasesDlg::OnBnClickedRestarArchivos() {
     UpdateData(TRUE);
     Cuadros::RestaSeleccionados(m_ListaHojas);
     UpdateData(FALSE);
-    // Kept: the button itself waits for the next change of the selection.
+    // Kept: the remove button stays enabled until the selection changes.
     Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 

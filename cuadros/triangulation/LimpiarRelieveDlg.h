@@ -30,7 +30,7 @@ public:
 protected:
     CString m_TextoB;
     CString m_TextoA;
-    int m_SinUso = 0; // kept: part of the class's layout
+    int m_SinUso = 0; // Kept: part of the class's layout
     CDataLimpiarRelieve* m_pData;
 };
 

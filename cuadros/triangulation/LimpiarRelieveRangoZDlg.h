@@ -32,7 +32,7 @@ public:
 protected:
     CString m_TextoB;
     CString m_TextoA;
-    int m_SinUso = 0; // kept: part of the class's layout
+    int m_SinUso = 0; // Kept: part of the class's layout
     CDataLimpiarRelieveRangoZ* m_pData;
 };
 

@@ -40,7 +40,7 @@ BOOL CTriangulacion2DDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
     Cuadros::LlenaListaClasificaciones(*this, m_ListaClasificaciones, m_Clasificaciones.size());
-    // Kept: what the host chose before is not asked; a box that may be used starts ticked.
+    // Kept: a box that may be used starts ticked, whatever m_Casilla was.
     m_Casilla = m_ActivarCasilla != 0;
     if (m_ActivarCasilla == 0)
         Cuadros::Habilita(*this, FALSE, {IDC_TRIANGULACION_2D_CASILLA});
@@ -81,7 +81,7 @@ void CTriangulacion2DDlg::OnBnClickedMfcbuttonNone() {
 
 void CTriangulacion2DDlg::OnOK() {
     UpdateData(TRUE);
-    // Kept: the vector is not emptied first.
+    // Kept: the vector is not emptied first; the rows come behind what it held.
     Cuadros::AgregaSeleccion(m_ListaClasificaciones, m_Seleccion);
     // Kept: a text that is no number is 0, without a message.
     *m_pValor = _wtof(m_TextoValor);

@@ -60,7 +60,7 @@ void CTriangulacion3DDiscoDlg::OnRestarArchivos() {
     UpdateData(TRUE);
     Cuadros::RestaSeleccionados(m_ListaHojas);
     UpdateData(FALSE);
-    // Kept: the button itself waits for the next change of the selection.
+    // Kept: the remove button stays enabled until the selection changes.
     Cuadros::HabilitaAceptar(*this, m_ListaHojas);
 }
 

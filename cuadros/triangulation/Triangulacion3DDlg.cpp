@@ -40,7 +40,7 @@ BOOL CTriangulacion3DDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_TRIANGULACION);
     Cuadros::LlenaListaClasificaciones(*this, m_ListaClasificaciones, m_Clasificaciones.size());
-    // Kept: what the host chose before is not asked; a box that may be used starts ticked.
+    // Kept: a box that may be used starts ticked, whatever m_Casilla was.
     m_Casilla = m_ActivarCasilla != 0;
     if (m_ActivarCasilla == 0)
         Cuadros::Habilita(*this, FALSE, {IDC_TRIANGULACION_3D_CASILLA});

@@ -47,12 +47,12 @@ bool AddToChain(HINSTANCE instance) {
         return true;
     } catch (CMemoryException* e) {
         e->Delete();
-    } catch (const std::bad_alloc&) { // the language's own word for it
+    } catch (const std::bad_alloc&) { // C++'s own exception for the same
     }
     return false;
 }
 
-// An exception would leave the loading half way, under the module's state: it is a failure.
+// An exception that left here would leave the module half loaded, with its state current.
 bool InitInstanceOf(CWinApp& app) {
     try {
         return app.InitInstance() != FALSE;

@@ -57,7 +57,7 @@ int CWinApp::ExitInstance() {
 }
 
 int CWinApp::Run() {
-    // Without a main window there would be nothing to end the loop.
+    // The loop ends with the main window: without one it would never end.
     if (!m_pMainWnd && !AfxGetMainWnd())
         ::PostQuitMessage(0);
     return CWinThread::Run();
@@ -70,7 +70,7 @@ void CWinApp::TakeModuleNames() {
         ReplaceText(m_pszExeName, title.c_str());
     if (!m_pszAppName) {
         CString name;
-        // Only the module's own title: another's in the chain would be somebody else's name.
+        // The module's own title only: one found in the chain would be another module's name.
         if (!name.LoadString(m_hInstance, AFX_IDS_APP_TITLE))
             name = m_pszExeName;
         ReplaceText(m_pszAppName, name);

@@ -21,12 +21,12 @@ INT_PTR RunModal(CWnd* parent, HWND& owner, Show show) {
         owner = CWnd::GetSafeOwner(parent, &top)->GetSafeHwnd();
     const afx_internal::DisabledWindow disabled(top);
     const BOOL taken = show();
-    owner = given; // the next time another window may be the active one
+    owner = given; // null again: the next DoModal looks for the owner anew
     return taken ? IDOK : IDCANCEL;
 }
 
 // Calls one of the dialog's virtual functions from the system's code, through which no exception
-// may pass: whoever fails to answer has answered with the fallback.
+// may pass: when one is thrown, the answer is the fallback.
 template <class Call, class Result>
 Result Guarded(Call call, Result fallback) {
     try {
@@ -97,7 +97,7 @@ COLORREF CColorDialog::GetColor() const {
 void CColorDialog::SetCurrentColor(COLORREF clr) {
     static const UINT setColor = ::RegisterWindowMessage(SETRGBSTRING);
     SendMessage(setColor, 0, static_cast<LPARAM>(clr));
-    // Wine does not know that message, but reads the fields.
+    // Wine does not know that message, but takes the colour from these three edits.
     SetDlgItemInt(COLOR_RED, GetRValue(clr), FALSE);
     SetDlgItemInt(COLOR_GREEN, GetGValue(clr), FALSE);
     SetDlgItemInt(COLOR_BLUE, GetBValue(clr), FALSE);

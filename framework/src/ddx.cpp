@@ -42,7 +42,7 @@ void CDataExchange::Fail() {
 }
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
-    if (rControl.m_hWnd) // an exchange before has subclassed it
+    if (rControl.m_hWnd) // subclassed by an earlier exchange
         return;
     if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC)))
         AfxThrowNotSupportedException();

@@ -73,10 +73,10 @@ bool CDialog::CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE in
 }
 
 bool CDialog::CreateModeless(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance) {
-    m_bModalEnded = false; // of a modal run before
+    m_bModalEnded = false; // may be left from a modal run
     if (!CreateFrom(dialogTemplate, HandleOf(m_pParentWnd), instance))
         return false;
-    if (!m_initialised) // an exception ended it half way
+    if (!m_initialised) // an exception left OnInitDialog
         DestroyWindow();
     return m_initialised;
 }
@@ -197,7 +197,8 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    // Identifiers below this are the dialog's own; from here on they are the application's.
+    // Commands from this number on are the application's, and go on to the owner; those below are
+    // the dialog's own.
     constexpr UINT firstCommand = 0x8000;
     constexpr UINT firstSystemCommand = 0xF000;
     if (nCode != CN_COMMAND || nID < firstCommand || nID >= firstSystemCommand)

@@ -2,8 +2,9 @@
 #include "thread_slot.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
-    // The system ends the thread's objects before it tells the modules of the thread's end, and
-    // what these do then makes some of them anew. The framework hears of it after them.
+    // When a thread ends, the system frees the thread's objects first, and then tells each module.
+    // What a module does then may make some objects anew. The framework is told last: it frees
+    // them.
     if (reason == DLL_THREAD_DETACH)
         afx_internal::ThreadSlots::ReleaseThread();
     return TRUE;

@@ -36,7 +36,7 @@ HWND ExchangedControls::FindNext(HWND dialog, HWND control) {
 }
 
 void ExchangedControls::Remember(const Known& known) {
-    m_known.resize(m_at); // this exchange goes another way than the last one
+    m_known.resize(m_at); // from here on the order is another than in the last exchange
     m_known.push_back(known);
     ++m_at;
 }

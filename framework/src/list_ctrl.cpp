@@ -107,7 +107,7 @@ int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) c
 }
 
 CString CListCtrl::GetItemText(int nItem, int nSubItem) const {
-    // No message tells the length: as long as the text fills the buffer there may be more of it.
+    // No message tells the length of the text: while it fills the buffer, a larger one is tried.
     CString text;
     int size = 128;
     int length = 0;
@@ -166,7 +166,7 @@ BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck) {
 
 namespace {
 
-// A position is the item's index and one, so that item 0 is not the end.
+// A position is the item's index plus one, since a null position means the end.
 
 POSITION PositionOf(int item) {
     return reinterpret_cast<POSITION>(static_cast<INT_PTR>(item) + 1);

@@ -48,13 +48,13 @@ AFX_MODULE_STATE::AFX_MODULE_STATE(BOOL bDLL, WNDPROC pfnAfxWndProc)
     : m_bDLL(bDLL), m_pfnAfxWndProc(pfnAfxWndProc) {}
 
 AFX_MODULE_STATE::~AFX_MODULE_STATE() {
-    // The module is going: nothing of this thread may go on under its state.
+    // The module is being unloaded: the thread falls back on the application's state.
     if (CurrentThread().moduleState == this)
         CurrentThread().moduleState = nullptr;
 }
 
 AFX_MODULE_STATE* AFXAPI AfxGetAppModuleState() {
-    // Never destroyed: modules that unload after this one's static objects still ask for it.
+    // Never destroyed: other modules, unloaded after this one's static objects, still ask for it.
     static AFX_MODULE_STATE* const state = [] {
         auto* made = new AFX_MODULE_STATE(FALSE, &afx_internal::ApplicationWndProc);
         made->m_hCurrentInstanceHandle = ::GetModuleHandle(nullptr);

@@ -260,7 +260,8 @@ CStringT<BaseType> CStringT<BaseType>::Tokenize(PCXSTR pszTokens, int& iStart) c
         return CStringT();
     }
     const auto end = std::min(View(*this).find_first_of(delimiters, first), View(*this).size());
-    // Behind the last token too, and not yet -1: a loop that ends at -1 has to see that token.
+    // After the last token as well, the start of the next search: -1 comes with the call after it,
+    // so that a loop until -1 sees the last token.
     iStart = static_cast<int>(end) + 1;
     return Mid(static_cast<int>(first), static_cast<int>(end - first));
 }

@@ -77,7 +77,7 @@ BOOL CWinThread::OnIdle(LONG lCount) {
 }
 
 BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
-    // Blinking carets and a mouse that stays where it is bring no work.
+    // No idle time after these: painting, a timer, a blinking caret (a timer of the system's own).
     constexpr UINT systemTimer = 0x0118;
     return pMsg->message != WM_PAINT && pMsg->message != WM_TIMER && pMsg->message != systemTimer;
 }
@@ -87,8 +87,8 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
     if (pMsg->message == WM_CREATE)
         return -1;
     if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, nullptr); // or it would come again at once, for ever
-    // A user exception has told the user already.
+        ::ValidateRect(pMsg->hwnd, nullptr); // else WM_PAINT would come again at once, for ever
+    // Whoever throws a user exception has told the user already.
     if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
         e->ReportError(MB_ICONSTOP);
     return 0;

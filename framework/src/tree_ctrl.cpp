@@ -67,7 +67,7 @@ BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImag
 }
 
 CString CTreeCtrl::GetItemText(HTREEITEM hItem) const {
-    // No message tells the length: as long as the text fills the buffer there may be more of it.
+    // No message tells the length of the text: while it fills the buffer, a larger one is tried.
     CString text;
     int size = 128;
     do {
@@ -170,7 +170,7 @@ BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck) {
 // Place
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const {
-    // The control looks for the item where it writes the rectangle.
+    // The control reads the item's handle from the start of the rectangle that it then fills.
     std::memcpy(lpRect, &hItem, sizeof(hItem));
     return Send<BOOL>(m_hWnd, TVM_GETITEMRECT, bTextOnly, lpRect);
 }

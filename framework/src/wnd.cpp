@@ -36,7 +36,7 @@ using afx_internal::Windows;
 // ---- Handles and objects
 
 CWnd::~CWnd() {
-    // A derived class's DestroyWindow is out of reach by now.
+    // The derived parts are gone: a virtual call would reach this class's DestroyWindow only.
     if (m_hWnd && Windows().LookupPermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
 }
@@ -171,7 +171,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                                   cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
     }
     if (!window && !m_hWnd && !m_ownProcedure)
-        PostNcDestroy(); // not even WM_NCDESTROY came, which would have called it
+        PostNcDestroy(); // WM_NCDESTROY, which calls it, never came
     return window != nullptr;
 }
 
@@ -202,7 +202,7 @@ BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass) {
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground,
                                    HICON hIcon) {
-    // Names outlive every window of theirs.
+    // Never destroyed: callers keep pointers to the names.
     static std::set<std::wstring>& names = *new std::set<std::wstring>;
     const HINSTANCE instance = AfxGetInstanceHandle();
     CString name;

@@ -27,7 +27,7 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     try {
         DoDataExchange(&exchange);
         return TRUE;
-    } catch (CUserException* e) { // the user knows
+    } catch (CUserException* e) { // thrown after the user was told
         e->Delete();
     } catch (CException* e) {
         e->ReportError(MB_ICONEXCLAMATION, AFX_IDP_INTERNAL_FAILURE);

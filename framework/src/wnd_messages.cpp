@@ -40,7 +40,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return ::DefWindowProc(hWnd, message, wParam, lParam);
 
     const CurrentMessage current(hWnd, message, wParam, lParam);
-    // No exception may leave: the system would swallow it and go on half way.
+    // No exception may leave a window procedure: the system would swallow it without a word.
     try {
         return window->WindowProc(message, wParam, lParam);
     } catch (CException* e) {
@@ -55,7 +55,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return result;
     } catch (...) {
         if (message == WM_PAINT)
-            ::ValidateRect(hWnd, nullptr); // or it would come again at once, for ever
+            ::ValidateRect(hWnd, nullptr); // else WM_PAINT would come again at once, for ever
         // What it left behind is unknown: the conversation ends, the application goes on.
         CWnd* top = CWnd::FromHandlePermanent(::GetAncestor(hWnd, GA_ROOT));
         if (top && top->ContinueModal())

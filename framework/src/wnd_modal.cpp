@@ -44,7 +44,7 @@ private:
 } // namespace
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    if (!m_bModal) // a dialog has begun its modal run before its window was made
+    if (!m_bModal) // a dialog does this itself, before its window is made
         BeginModal();
     const Innermost innermost(this);
     bool shown = !(dwFlags & MLF_SHOWONIDLE) || IsWindowVisible();
@@ -55,7 +55,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
                 shown = true;
                 ShowWindow(SW_SHOWNORMAL);
                 UpdateWindow();
-                continue; // the owner hears of the idle time once the controls are painted too
+                continue; // the controls are painted before the owner hears of the idle time
             }
             idle = false;
             const HWND owner = ::GetParent(m_hWnd);
@@ -95,6 +95,6 @@ void CWnd::EndModalLoop(int nResult) {
         return;
     m_nModalResult = nResult;
     m_bModalEnded = true;
-    // A loop that waits for a message must look up, also when the window is going.
+    // Wakes a loop that waits for a message, also when the window is being destroyed.
     ::PostMessage(nullptr, WM_NULL, 0, 0);
 }

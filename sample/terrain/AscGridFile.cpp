@@ -19,10 +19,11 @@ constexpr size_t BlockSize = 64 * 1024;
 constexpr size_t LongestWord = 100;
 constexpr int MostElevations = 100'000'000;
 constexpr double DefaultNoData = -9999;
-/// What lies further from zero, in metres, is no place and no elevation, but a wrong marker of
-/// missing values or another file.
+/// The largest coordinate and elevation, in metres. What lies further from zero is a sign of a
+/// wrong marker of missing values, or of a file of another kind.
 constexpr double Furthest = 1e9;
-/// Of smaller cells, in metres, coordinates as maps have them cannot be told from each other.
+/// The smallest cell, in metres: the coordinates of smaller ones, far from zero as those of maps
+/// are, would differ by less than a double can tell.
 constexpr double SmallestCell = 1e-6;
 
 /// Gives the next bytes of a file, as InputFile::Read does.
@@ -113,7 +114,7 @@ std::optional<double> Number(std::string_view word) {
     if (last != end || error == std::errc::invalid_argument)
         return {};
     if (error == std::errc::result_out_of_range) {
-        // It is not told whether too large or too small; only a power of ten makes a word either.
+        // Too large or too small: from_chars does not say which, but the sign of the exponent does.
         const bool small = word.find("e-") != word.npos || word.find("E-") != word.npos;
         return small ? 0 : HUGE_VAL;
     }
@@ -168,7 +169,7 @@ constexpr Key Keys[] = {{"ncols", Columns},     {"nrows", Rows},         {"xllco
                         {"xllcenter", West},    {"yllcorner", South},    {"yllcenter", South},
                         {"cellsize", CellSize}, {"nodata_value", NoData}};
 
-/// What the refusals call it; of NODATA_value there is a default.
+/// The keys that a header must have, as the refusals call them; NODATA_value has a default.
 constexpr const wchar_t* Needed[] = {L"ncols", L"nrows", L"xllcorner or xllcenter",
                                      L"yllcorner or yllcenter", L"cellsize"};
 

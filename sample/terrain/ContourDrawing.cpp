@@ -14,7 +14,7 @@ namespace {
 constexpr size_t MostLabels = 100'000;
 constexpr int MostDecimals = 6;
 constexpr double FigureWidth = 0.8; ///< Of its height.
-/// How much of its own length a line under a label gets on.
+/// How straight a line under a label must be: the distance of its ends, as a part of its length.
 constexpr double Straight = 0.97;
 
 double Distance(const MapPoint& from, const MapPoint& to) {
@@ -47,7 +47,8 @@ public:
 private:
     void Continue(const MapPoint& point) {
         const double distance = m_Distances.back() + Distance(m_Points.back(), point);
-        // A step may be so short that it is lost in the sum: it leads nowhere.
+        // A step too short to change the sum is left out: a piece without a length has no
+        // direction.
         if (distance > m_Distances.back()) {
             m_Points.push_back(point);
             m_Distances.push_back(distance);

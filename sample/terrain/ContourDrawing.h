@@ -21,8 +21,8 @@ struct ContourLayers {
 struct ContourLabelStyle {
     double height = 2;    ///< Of a figure, mm, above 0.
     double spacing = 100; ///< Between two labels of a line, along it, mm, above 0.
-    /// Of the elevations, at least: 162.5 has one all the same. What is outside of 0 to 6 is
-    /// brought there; more than 6 there are never.
+    /// Decimals of the elevations, at least: 162.5 has one in any case. Below 0 counts as 0, above
+    /// 6 as 6; there are never more than 6.
     int decimals = 0;
     bool mastersOnly = true; ///< Master contours alone have labels.
 };

@@ -92,7 +92,8 @@ public:
 
     /// How often a cell is crossed by a level, all in all.
     size_t CountCrossings() {
-        // By where the levels of a cell begin and end: there may be far more than cells.
+        // Counted by the first and the last level of each cell, not level by level: a steep cell
+        // may be crossed by thousands.
         std::vector<std::int64_t> changes(m_Levels.size() + 1, 0);
         ForEachCrossed([&](Cell, size_t first, size_t behind) {
             ++changes[first];
@@ -274,7 +275,7 @@ private:
     const std::vector<ContourLevel>& m_Levels;
     const int m_CellColumns;
     const int m_CellRows;
-    std::vector<size_t> m_First; ///< Of a level: how many crossings those below it have.
+    std::vector<size_t> m_First; ///< For each level, how many crossings those below it have.
     std::vector<std::uint8_t> m_Pending;
     ContourLevel m_Level;
     std::vector<GridPoint> m_Line;

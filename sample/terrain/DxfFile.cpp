@@ -68,13 +68,13 @@ private:
     void Group(int code, int value) { Group(code, std::to_string(value)); }
     void Length(int code, double metres) { Group(code, Decimal(metres, m_Drawing.decimals)); }
 
-    /// A place has the groups 10, 20 and 30, or as far behind them.
+    /// A place is written into the groups 10, 20 and 30; with `behind` = 1 into 11, 21 and 31.
     void Place(const MapPoint& point, double elevation, int behind = 0) {
         Length(10 + behind, point.x);
         Length(20 + behind, point.y);
         Group(30 + behind, Elevation(elevation));
     }
-    /// Levels may be far finer than cells.
+    /// With six decimals, whatever the coordinates have: levels may be far finer than cells.
     static std::string Elevation(double elevation) { return Decimal(elevation, 6); }
 
     void Section(std::string_view name) {
@@ -164,7 +164,8 @@ private:
         Group(0, "ENDSEC");
     }
 
-    /// A colour of its own has only what lies on a layer of another: the layers stay the user's.
+    /// A colour is written only where the layer has another one: else the user could not change it
+    /// by changing the layer's.
     void LayerAndColour(const std::string& layer, Colour colour) {
         Group(8, layer);
         if (std::ranges::find(m_Layers, layer, &Layer::name)->colour != colour)

@@ -205,7 +205,7 @@ inline void CompruebaClase(const CObject& dialogo, const CRuntimeClass* clase, c
     EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
 }
 
-/// The help of `Dlg` exchanges nothing: where a number is bad, nobody is told so then.
+/// The help of `Dlg` exchanges nothing: a bad number is not refused by it.
 template <class Dlg, class... Argumentos>
 void CompruebaAyudaSinIntercambio(Argumentos&&... argumentos) {
     ConIntercambios<Dlg> contador(std::forward<Argumentos>(argumentos)...);

@@ -126,7 +126,7 @@ TEST_F(CambiosPendienteTINDlg, FlagsOutsideTheirRangeAreReadBackAtOpening) {
         data.m_GenerarDibujo1 = 0;
         data.m_GenerarDibujo2 = antes;
         Abre([&](kit::Dialog& dialogo) {
-            // What a box of two states makes of a third one is the system's.
+            // How a box of two states shows a third one is the system's choice.
             EXPECT_EQ(data.m_GenerarDibujo2,
                       SendMessageW(dialogo.control(Dibujo2), BM_GETCHECK, 0, 0));
             EXPECT_EQ(data.m_GenerarDibujo2 != 0, antes == 2);

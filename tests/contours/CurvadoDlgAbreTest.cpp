@@ -84,7 +84,7 @@ TEST_F(CurvadoDlgAbre, BrowsingAsksTheHostForAFileThatExists) {
         derivado.Intercambios();
         dialogo.press(Buscar);
         EXPECT_EQ(derivado.Intercambios(), "SM");
-        // The record's own text, into which what was typed came first.
+        // The host gets the record's own text, which holds by now what was typed.
         EXPECT_EQ(CompruebaPregunta(dialogo, L"C:\\typed.dxf", 0x1004, &derivado.m_pPlantilla),
                   &data.m_FicheroLimite);
         EXPECT_EQ(derivado.m_pPlantilla, plantilla);
@@ -228,7 +228,7 @@ TEST_F(CurvadoDlgAbre, OkOfAdvancedWritesItsThreeValuesAndNothingElse) {
 }
 
 TEST_F(CurvadoDlgAbre, CancelOfAdvancedWritesNothing) {
-    data.m_AvanzadoPorEscala = 7; // no flag that the dialog would leave as it is
+    data.m_AvanzadoPorEscala = 7; // the advanced dialog would make it 1
     const auto antes = Campos(data);
     const auto resultado = AbreAvanzado(
         [](kit::Dialog& dialogo) {

@@ -112,7 +112,7 @@ TEST_F(CurvadoDlgEscala, TypingKeepsTextAndCaret) {
         EXPECT_EQ(dialogo.selection(Escala), (kit::Selection{3, 3}));
         CompruebaValores(125000);
 
-        // A number's own way of being written is left to the user.
+        // Zeros before a number stay as the user has typed them.
         dialogo.select(Escala, {0, 0});
         dialogo.insert(Escala, L"00");
         EXPECT_EQ(dialogo.text(Escala), L"00125000");

@@ -114,7 +114,7 @@ TEST_F(CurvadoDlgOk, RecordThatTheHostHasJustMadeIsTaken) {
     data = {};
     EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
     EXPECT_EQ(Campos(data), Campos(CDataCurvado()));
-    // It is good also once its labels and the checked type are in use.
+    // Its values pass the checks of the labels and of the smoothing level as well.
     data.m_TextoCurvas = TRUE;
     data.m_TipoSuavizado = 2;
     EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);

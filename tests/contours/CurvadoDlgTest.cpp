@@ -612,7 +612,7 @@ TEST_F(CurvadoDlg, ListWithoutItemsLeavesTheControls) {
         contador.Intercambios();
         SendMessageW(dialogo.control(TipoSuavizado), CB_SETCURSEL, 0, 0);
         {
-            // What only a list with a procedure of its own says while one is selected.
+            // As with a language file without types: the list counts none, whatever is selected.
             const Escucha vacia(dialogo.control(TipoSuavizado), [](UINT mensaje, WPARAM, LPARAM) {
                 return mensaje == CB_GETCOUNT ? std::optional<LRESULT>(0) : std::nullopt;
             });

@@ -172,7 +172,7 @@ TEST_F(VectoresPendienteDlg, FlagOutsideItsRangeIsReadBackAtOpening) {
     for (const int antes : {2, -1, 7}) {
         data.m_Limite = antes;
         Abre([&](kit::Dialog& dialogo) {
-            // What a box of two states makes of a third one is the system's.
+            // How a box of two states shows a third one is the system's choice.
             EXPECT_EQ(data.m_Limite, SendMessageW(dialogo.control(Limite), BM_GETCHECK, 0, 0));
             EXPECT_EQ(data.m_Limite != 0, antes == 2);
             EXPECT_EQ(dialogo.enabled(FicheroLimite), antes == 2);
@@ -259,7 +259,7 @@ TEST_F(VectoresPendienteDlg, AsksTheHostForAFileThatExists) {
     Abre(dlg, [&](kit::Dialog& dialogo) {
         dialogo.type(FicheroLimite, L"typed.dat");
         dialogo.press(Buscar);
-        // The record's own text, into which what was typed came first.
+        // The host gets the record's own text, which holds by now what was typed.
         EXPECT_EQ(CompruebaPregunta(dialogo, L"typed.dat", 0x1004, &dlg.m_pPlantilla),
                   &data.m_FicheroLimite);
         EXPECT_EQ(dlg.m_pPlantilla, plantilla);

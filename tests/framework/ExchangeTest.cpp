@@ -190,7 +190,7 @@ TEST(Exchange, InsideAnotherExchangeItGivesTheSilenceBack) {
         if (nested) {
             nested = false;
             dialog.UpdateData(TRUE);
-            // Still inside the outer exchange: this change is nobody's.
+            // Still inside the outer exchange: nobody is notified of this change.
             ::SetDlgItemText(dialog.m_hWnd, IDC_NAME, L"from the program");
         }
         DDX_Text(pDX, IDC_NAME, name);

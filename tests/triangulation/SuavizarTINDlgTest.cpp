@@ -80,7 +80,7 @@ TEST_F(SuavizarTINDlg, FlagOutsideItsRangeIsReadBackAtOpening) {
     for (const int antes : {2, -1, 7}) {
         data.m_Iterar = antes;
         Abre([&](kit::Dialog& dialogo) {
-            // What a box of two states makes of a third one is the system's.
+            // How a box of two states shows a third one is the system's choice.
             const auto mostrado = SendMessageW(dialogo.control(Iterar), BM_GETCHECK, 0, 0);
             EXPECT_EQ(mostrado != BST_UNCHECKED, antes == 2);
             EXPECT_EQ(data.m_Iterar, mostrado);

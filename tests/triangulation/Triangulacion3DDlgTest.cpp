@@ -81,7 +81,7 @@ TEST_F(Triangulacion3DDlg, OptionOutsideItsRangeComesBackAsItIsShown) {
         EXPECT_EQ(entero, antes);
         LRESULT mostrado = -1;
         const auto resultado = Abre([&](kit::Dialog& dialogo) {
-            // What a box of two states makes of a third one is the system's.
+            // How a box of two states shows a third one is the system's choice.
             mostrado = SendMessageW(dialogo.control(Entero), BM_GETCHECK, 0, 0);
             EXPECT_EQ(mostrado != BST_UNCHECKED, antes == 2);
             dialogo.press(IDOK);

@@ -100,6 +100,12 @@ TEST(Png, IsSmallWhereRowsRepeatAndAlwaysTheSame) {
     DeleteFileW(path.c_str());
 }
 
+TEST(Png, IsRefusedWithoutPixels) {
+    const std::wstring path = temporaryPath(L"kit-png");
+    EXPECT_FALSE(kit::writePng(path, {}, 2, 2));
+    EXPECT_FALSE(DeleteFileW(path.c_str())) << "there is no file";
+}
+
 TEST(Png, IsWrittenByAnyThreadWhichKeepsItsOwnCom) {
     const std::wstring path = temporaryPath(L"kit-png");
     const std::vector<RGBQUAD> pixels(4);

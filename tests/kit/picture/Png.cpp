@@ -33,8 +33,7 @@ bool writePng(const Text& path, std::span<const RGBQUAD> pixels, int width, int 
     ComPtr<IWICStream> file;
     ComPtr<IWICBitmapEncoder> encoder;
     ComPtr<IWICBitmapFrameEncode> frame;
-    return !pixels.empty() &&
-           SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+    return SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                       IID_PPV_ARGS(&factory))) &&
            SUCCEEDED(factory->CreateBitmapFromMemory(
                width, height, GUID_WICPixelFormat32bppBGR, width * sizeof(RGBQUAD),

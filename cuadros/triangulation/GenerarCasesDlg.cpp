@@ -67,7 +67,7 @@ void CGenerarCasesDlg::OnLbnSelchangeListaHojas() {
 void CGenerarCasesDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
     Cuadros::HabilitaAceptar(*this, m_ListaHojas);
-    CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
+    CDialog::OnDropFiles(hDropInfo); // Kept: no DragFinish, the system gets the handle
 }
 
 void CGenerarCasesDlg::OnOK() {

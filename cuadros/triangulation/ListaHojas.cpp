@@ -23,7 +23,7 @@ void SumaSoltados(CListBox& lista, HDROP soltados) {
     const UINT cuantos = DragQueryFile(soltados, cuenta, nullptr, 0);
     const ListaSinDibujar quieta(lista);
     for (UINT i = 0; i < cuantos; ++i) {
-        TCHAR ruta[260] = L""; // kept: a longer path is cut
+        TCHAR ruta[260] = L""; // Kept: a longer path is cut
         DragQueryFile(soltados, i, ruta, 260);
         lista.AddString(ruta);
     }

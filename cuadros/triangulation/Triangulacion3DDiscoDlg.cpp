@@ -72,7 +72,7 @@ void CTriangulacion3DDiscoDlg::OnSelchangeListaHojas() {
 void CTriangulacion3DDiscoDlg::OnDropFiles(HDROP hDropInfo) {
     Cuadros::SumaSoltados(m_ListaHojas, hDropInfo);
     Cuadros::HabilitaAceptar(*this, m_ListaHojas);
-    CDialog::OnDropFiles(hDropInfo); // kept: what becomes of the handle is the system's
+    CDialog::OnDropFiles(hDropInfo); // Kept: no DragFinish, the system gets the handle
 }
 
 void CTriangulacion3DDiscoDlg::OnOK() {

@@ -26,7 +26,7 @@ public:
     afx_msg void OnBnClickedGenerarDibujo();
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
 
 protected:
     Cotana::CDataCambiosPendiente* m_pData;

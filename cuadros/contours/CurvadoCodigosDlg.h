@@ -28,7 +28,7 @@ public:
     BOOL OnInitDialog() override;
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
 
 protected:
     CString* m_pCodigo1;

@@ -84,8 +84,3 @@ void CVectoresPendienteDlg::OnOK() {
 void CVectoresPendienteDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_VECTORES_PENDIENTE);
 }
-
-BOOL CVectoresPendienteDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
-    OnHelp();
-    return TRUE;
-}

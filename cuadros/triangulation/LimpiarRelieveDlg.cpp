@@ -41,9 +41,4 @@ void CLimpiarRelieveDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_LIMPIAR_RELIEVE);
 }
 
-BOOL CLimpiarRelieveDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
-    OnHelp();
-    return TRUE;
-}
-
 } // namespace Cotana

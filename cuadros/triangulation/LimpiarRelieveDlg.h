@@ -25,7 +25,7 @@ public:
     void OnOK() override;
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
 
 protected:
     CString m_TextoB;

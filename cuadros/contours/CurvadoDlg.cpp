@@ -7,8 +7,8 @@
 #include "cuadros/contours/CurvadoCodigosDlg.h"
 #include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
+#include "cuadros/frame/Numeros.h"
 #include "cuadros/frame/PideFichero.h"
-#include "cuadros/frame/Signo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
@@ -25,12 +25,6 @@ constexpr int SuavizadoConNivel = 2;
 /// paper.
 constexpr double Avanzado1PorEscala = 0.00004;
 constexpr double Avanzado2PorEscala = 0.0002;
-
-CString ConDosDecimales(double cota) {
-    CString texto;
-    texto.Format(L"%.2lf", cota);
-    return texto;
-}
 
 CComboBox& TiposSuavizado(const CWnd& dialogo) {
     return *static_cast<CComboBox*>(dialogo.GetDlgItem(IDC_CURVADO_TIPO_SUAVIZADO));
@@ -99,8 +93,8 @@ BOOL CCurvadoDlg::OnInitDialog() {
          IDC_CURVADO_OPCION_SUAVIZADO, IDC_CURVADO_OPCION_1, IDC_CURVADO_RESPETAR_CURVAS,
          IDC_CURVADO_CURVAS_A_RESPETAR_1, IDC_CURVADO_CURVAS_A_RESPETAR_2,
          IDC_CURVADO_ROTULO_RESPETAR_1, IDC_CURVADO_ROTULO_RESPETAR_2});
-    SetDlgItemText(IDC_CURVADO_COTA_MINIMA_MODELO, ConDosDecimales(m_CotaMinimaModelo));
-    SetDlgItemText(IDC_CURVADO_COTA_MAXIMA_MODELO, ConDosDecimales(m_CotaMaximaModelo));
+    SetDlgItemText(IDC_CURVADO_COTA_MINIMA_MODELO, Cuadros::ConDecimales(m_CotaMinimaModelo, 2));
+    SetDlgItemText(IDC_CURVADO_COTA_MAXIMA_MODELO, Cuadros::ConDecimales(m_CotaMaximaModelo, 2));
     UpdateData(FALSE);
     OnCheckRangoCota();
     OnCheckRespetarCurvas();

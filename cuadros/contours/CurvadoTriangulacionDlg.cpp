@@ -1,7 +1,7 @@
 #include "cuadros/contours/CurvadoTriangulacionDlg.h"
 
 #include "cuadros/frame/Dialogo.h"
-#include "cuadros/frame/Signo.h"
+#include "cuadros/frame/Numeros.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"

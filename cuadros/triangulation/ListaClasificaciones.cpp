@@ -1,19 +1,10 @@
 #include "cuadros/triangulation/ListaClasificaciones.h"
 
 #include "cuadros/frame/Listas.h"
+#include "cuadros/frame/Numeros.h"
 #include "cuadros/resources/StringIds.h"
 
 namespace Cuadros {
-
-namespace {
-
-CString Entero(int numero) {
-    CString texto;
-    texto.Format(L"%d", numero);
-    return texto;
-}
-
-} // namespace
 
 void PreparaListaClasificaciones(CListCtrl& lista) {
     PreparaLista(lista, {{IDS_COLUMNA_CODIGO, LVCFMT_LEFT, 35},

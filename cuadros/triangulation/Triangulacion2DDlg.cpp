@@ -3,6 +3,7 @@
 #include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
+#include "cuadros/frame/Numeros.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/ListaClasificaciones.h"
@@ -44,7 +45,7 @@ BOOL CTriangulacion2DDlg::OnInitDialog() {
     m_Casilla = m_ActivarCasilla != 0;
     if (m_ActivarCasilla == 0)
         Cuadros::Habilita(*this, FALSE, {IDC_TRIANGULACION_2D_CASILLA});
-    m_TextoValor.Format(L"%.3lf", *m_pValor);
+    m_TextoValor = Cuadros::ConDecimales(*m_pValor, 3);
     UpdateData(FALSE);
     HayCambioSeleccion();
     return TRUE;
@@ -84,7 +85,7 @@ void CTriangulacion2DDlg::OnOK() {
     // Kept: the vector is not emptied first; the rows come behind what it held.
     Cuadros::AgregaSeleccion(m_ListaClasificaciones, m_Seleccion);
     // Kept: a text that is no number is 0, without a message.
-    *m_pValor = _wtof(m_TextoValor);
+    *m_pValor = Cuadros::LeeNumero(m_TextoValor);
     CDialog::OnOK();
 }
 

@@ -5,7 +5,7 @@
 #include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
-#include "cuadros/frame/Signo.h"
+#include "cuadros/frame/Numeros.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"

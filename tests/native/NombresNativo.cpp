@@ -1,7 +1,6 @@
 // Native test of the name line's reader: listed cases, then random lines against two oracles.
 //
 // usage: NombresNativo [lines [seed]]
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -10,7 +9,6 @@
 
 #include "Comprobacion.h"
 #include "cuadros/frame/LineaNombres.h"
-#include "cuadros/frame/Signo.h"
 
 namespace {
 
@@ -72,15 +70,6 @@ void PruebaCasos() {
           "a negative count touches nothing");
 }
 
-void PruebaSigno() {
-    using Cuadros::Signo;
-    Exige(Signo(1e-7) == 0 && Signo(-1e-7) == 0, "the sign's limits are strict");
-    Exige(Signo(1.0000001e-7) == 1 && Signo(-1.0000001e-7) == -1, "sign just beyond the limits");
-    Exige(Signo(0.0) == 0 && Signo(-0.0) == 0, "sign of zero");
-    Exige(Signo(1e300) == 1 && Signo(-1e300) == -1, "sign of large values");
-    Exige(Signo(std::nan("")) == 0, "sign of what is not a number");
-}
-
 void PruebaAlAzar(long cuantas, unsigned long semilla) {
     // Twice as many quotes and blanks as letters: most lines then have several names.
     const std::wstring alfabeto = L"\"\"\"\"    \r\n\uFEFF\tabC";
@@ -103,7 +92,6 @@ void PruebaAlAzar(long cuantas, unsigned long semilla) {
 int main(int argc, char** argv) {
     const long cuantas = argc > 1 ? std::atol(argv[1]) : 1'000'000;
     const unsigned long semilla = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 19011;
-    PruebaSigno();
     PruebaCasos();
     PruebaAlAzar(cuantas, semilla);
     std::printf("%zu listed cases, %ld random lines from seed %lu: %d failures\n", Casos.size(),

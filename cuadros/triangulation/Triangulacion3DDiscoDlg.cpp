@@ -2,7 +2,7 @@
 
 #include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
-#include "cuadros/frame/PideFichero.h"
+#include "cuadros/frame/Peticiones.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"

@@ -1,9 +1,10 @@
-#include "cuadros/frame/PideFichero.h"
+#include "cuadros/frame/Peticiones.h"
 
-#include <commdlg.h>
+#include <afxdlgs.h>
 
 #include <cotana/aplicacion/Aplicacion.h>
 
+#include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/StringIds.h"
 
 namespace Cuadros {
@@ -35,6 +36,28 @@ BOOL PideFicheroGuardar(CString& nombre, CDocTemplate** plantilla, int clase) {
 
 BOOL PideVariosFicheros(CString& nombres, CDocTemplate** plantilla, int clase) {
     return PideFichero(nombres, OpcionesVarios, TRUE, plantilla, clase);
+}
+
+bool PideFicheroAlSistema(CString& nombre, UINT filtro) {
+    CFileDialog sistema(FALSE, nullptr, nombre, OpcionesGuardar, Texto(filtro));
+    if (sistema.DoModal() != IDOK)
+        return false;
+    nombre = sistema.GetPathName();
+    return true;
+}
+
+bool PideColor(CWnd& dialogo, COLORREF& color) {
+    CColorDialog sistema(color, CC_FULLOPEN | CC_ANYCOLOR, &dialogo);
+    if (sistema.DoModal() != IDOK)
+        return false;
+    color = sistema.GetColor();
+    return true;
+}
+
+void MuestraColor(CWnd& dialogo, COLORREF color, int rojo, int verde, int azul) {
+    dialogo.SetDlgItemInt(rojo, GetRValue(color));
+    dialogo.SetDlgItemInt(verde, GetGValue(color));
+    dialogo.SetDlgItemInt(azul, GetBValue(color));
 }
 
 } // namespace Cuadros

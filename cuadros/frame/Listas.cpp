@@ -4,6 +4,18 @@
 
 namespace Cuadros {
 
+namespace {
+
+int Inserta(CListCtrl& lista, int indice, const CString& texto, UINT imagenDeEstado, int imagen) {
+    // Kept: a longer text is cut in the list, never in the record.
+    constexpr int maximo = 259;
+    constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
+    return lista.InsertItem(partes, indice, texto.Left(maximo),
+                            INDEXTOSTATEIMAGEMASK(imagenDeEstado), LVIS_STATEIMAGEMASK, imagen, 0);
+}
+
+} // namespace
+
 void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas) {
     int numero = 0;
     for (const Columna& columna : columnas) {
@@ -14,12 +26,11 @@ void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas) {
 }
 
 int InsertaFila(CListCtrl& lista, int indice, const CString& texto) {
-    // Kept: a longer text is cut in the list, never in the record.
-    constexpr int maximo = 259;
-    constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
-    constexpr UINT primeraImagenDeEstado = INDEXTOSTATEIMAGEMASK(1);
-    return lista.InsertItem(partes, indice, texto.Left(maximo), primeraImagenDeEstado,
-                            LVIS_STATEIMAGEMASK, 0, 0);
+    return Inserta(lista, indice, texto, 1, 0);
+}
+
+int InsertaFilaConImagen(CListCtrl& lista, int indice, const CString& texto, int imagen) {
+    return Inserta(lista, indice, texto, 0, imagen);
 }
 
 ListaSinDibujar::ListaSinDibujar(CWnd& lista) : m_Lista(lista) {
@@ -39,7 +50,22 @@ void SeleccionaFilas(CListCtrl& lista, unsigned int filas, bool seleccionadas) {
 }
 
 bool HaySeleccion(const CListCtrl& lista) {
-    return lista.GetNextItem(-1, LVNI_SELECTED) >= 0;
+    return PrimeraSeleccionada(lista) >= 0;
+}
+
+int PrimeraSeleccionada(const CListCtrl& lista) {
+    return lista.GetNextItem(-1, LVNI_SELECTED);
+}
+
+std::vector<int> FilasSeleccionadas(const CListCtrl& lista) {
+    std::vector<int> filas;
+    for (int i = PrimeraSeleccionada(lista); i >= 0; i = lista.GetNextItem(i, LVNI_SELECTED))
+        filas.push_back(i);
+    return filas;
+}
+
+WORD TeclaPulsada(const NMHDR* notificacion) {
+    return reinterpret_cast<const NMLVKEYDOWN*>(notificacion)->wVKey;
 }
 
 } // namespace Cuadros

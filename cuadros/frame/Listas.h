@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 
 #include <initializer_list>
+#include <vector>
 
 namespace Cuadros {
 
@@ -52,5 +53,32 @@ void RecorreSeleccion(const CListCtrl& lista, unsigned int filas, Visita visita)
         visita(static_cast<unsigned int>(i));
     }
 }
+
+/// Inserts a row as `InsertaFila` does, with an image of the list's small image list and no state
+/// image.
+///
+/// @return the index that the row has in the list.
+int InsertaFilaConImagen(CListCtrl& lista, int indice, const CString& texto, int imagen);
+
+/// Fills a list with `filas` rows in two passes: `nuevo(i)` inserts each row i, and once all are
+/// there `modifica(i)` shows its other columns. The list is not drawn meanwhile.
+template <class Nuevo, class Modifica>
+void LlenaLista(CListCtrl& lista, std::size_t filas, Nuevo nuevo, Modifica modifica) {
+    const ListaSinDibujar quieta(lista);
+    const int cuantas = static_cast<int>(filas);
+    for (int i = 0; i < cuantas; ++i)
+        nuevo(i);
+    for (int i = 0; i < cuantas; ++i)
+        modifica(i);
+}
+
+/// The first selected row of a list, -1 when there is none.
+int PrimeraSeleccionada(const CListCtrl& lista);
+
+/// The selected rows of a list, in increasing order.
+std::vector<int> FilasSeleccionadas(const CListCtrl& lista);
+
+/// The key of a list's notification that one was pressed (`LVN_KEYDOWN`).
+WORD TeclaPulsada(const NMHDR* notificacion);
 
 } // namespace Cuadros

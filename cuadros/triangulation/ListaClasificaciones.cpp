@@ -24,8 +24,8 @@ void CompletaClasificacion(CListCtrl& lista, int fila,
 }
 
 void AgregaSeleccion(const CListCtrl& lista, std::vector<int>& seleccion) {
-    RecorreSeleccion(lista, static_cast<unsigned int>(lista.GetItemCount()),
-                     [&](unsigned int i) { seleccion.push_back(static_cast<int>(i)); });
+    const std::vector<int> filas = FilasSeleccionadas(lista);
+    seleccion.insert(seleccion.end(), filas.begin(), filas.end());
 }
 
 } // namespace Cuadros

@@ -26,14 +26,9 @@ void CompletaClasificacion(CListCtrl& lista, int fila,
 template <class Dialogo>
 void LlenaListaClasificaciones(Dialogo& dialogo, CListCtrl& lista, std::size_t cuantas) {
     PreparaListaClasificaciones(lista);
-    {
-        const ListaSinDibujar quieta(lista);
-        const int filas = static_cast<int>(cuantas);
-        for (int i = 0; i < filas; ++i)
-            dialogo.ElementoNuevo(i);
-        for (int i = 0; i < filas; ++i)
-            dialogo.ModificaElemento(i);
-    }
+    LlenaLista(
+        lista, cuantas, [&](int i) { dialogo.ElementoNuevo(i); },
+        [&](int i) { dialogo.ModificaElemento(i); });
     lista.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
 }
 

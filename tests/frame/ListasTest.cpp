@@ -31,6 +31,22 @@ std::vector<unsigned int> Recorridas(const CListCtrl& lista, unsigned int filas)
     return indices;
 }
 
+/// A row that is inserted: its parts, row, column, state, state mask and image.
+using Insercion = std::tuple<UINT, int, int, UINT, UINT, int>;
+constexpr UINT Partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
+
+/// Writes down the rows that are inserted into the list that it hears.
+Escucha::Oido Apunta(std::vector<Insercion>& inserciones) {
+    return [&](UINT mensaje, WPARAM, LPARAM lParam) {
+        if (mensaje == LVM_INSERTITEM) {
+            const auto& fila = *reinterpret_cast<const LVITEM*>(lParam);
+            inserciones.emplace_back(fila.mask, fila.iItem, fila.iSubItem, fila.state,
+                                     fila.stateMask, fila.iImage);
+        }
+        return std::nullopt;
+    };
+}
+
 } // namespace
 
 TEST(Listas, HaveTheirColumnsGridLinesAndFullRows) {
@@ -73,24 +89,100 @@ TEST(Listas, RowsHaveTheFirstStateImageAndAtMost259Characters) {
 }
 
 TEST(Listas, RowIsInsertedWithItsStateAndImageAtOnce) {
-    using Insercion = std::tuple<UINT, int, int, UINT, UINT, int>;
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         std::vector<Insercion> inserciones;
-        const Escucha escucha(prueba.m_Lista.m_hWnd, [&](UINT mensaje, WPARAM, LPARAM lParam) {
-            if (mensaje == LVM_INSERTITEM) {
-                const auto& fila = *reinterpret_cast<const LVITEM*>(lParam);
-                inserciones.emplace_back(fila.mask, fila.iItem, fila.iSubItem, fila.state,
-                                         fila.stateMask, fila.iImage);
-            }
-            return std::nullopt;
-        });
+        const Escucha escucha(prueba.m_Lista.m_hWnd, Apunta(inserciones));
         AbreConFilas(prueba, 2);
-        constexpr UINT partes = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
-        EXPECT_EQ(inserciones, (std::vector<Insercion>{{partes, 0, 0, 0x1000, 0xF000, 0},
-                                                       {partes, 1, 0, 0x1000, 0xF000, 0}}));
+        EXPECT_EQ(inserciones, (std::vector<Insercion>{{Partes, 0, 0, 0x1000, 0xF000, 0},
+                                                       {Partes, 1, 0, 0x1000, 0xF000, 0}}));
         prueba.EndDialog(IDCANCEL);
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Listas, RowWithAnImageHasNoStateImage) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 1);
+        std::vector<Insercion> inserciones;
+        const Escucha escucha(prueba.m_Lista.m_hWnd, Apunta(inserciones));
+        EXPECT_EQ(Cuadros::InsertaFilaConImagen(prueba.m_Lista, 0, CString(L'x', 260), 4), 0);
+        EXPECT_EQ(inserciones, (std::vector<Insercion>{{Partes, 0, 0, 0, 0xF000, 4}}));
+        EXPECT_EQ(prueba.m_Lista.GetItemText(0, 0), CString(L'x', 259));
+        EXPECT_EQ(prueba.m_Lista.GetItemText(1, 0), L"row 0");
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Listas, AreFilledInTwoPasses) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 0); });
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        CListCtrl& lista = prueba.m_Lista;
+        lista.UpdateWindow();
+        std::string pasos;
+        const auto apunta = [&](char paso, int i) {
+            pasos += paso + std::to_string(i) + ' ';
+            EXPECT_FALSE(lista.GetUpdateRect(nullptr));
+        };
+        Cuadros::LlenaLista(
+            lista, 3,
+            [&](int i) {
+                Cuadros::InsertaFila(lista, i, L"row");
+                apunta('n', i);
+            },
+            [&](int i) {
+                lista.SetItemText(i, 1, L"more");
+                apunta('m', i);
+            });
+        EXPECT_EQ(pasos, "n0 n1 n2 m0 m1 m2 ");
+        EXPECT_TRUE(lista.GetUpdateRect(nullptr));
+        EXPECT_EQ(lista.GetItemCount(), 3);
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, TellTheirSelectedRowsAndTheFirstOfThem) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 5);
+        EXPECT_EQ(Cuadros::PrimeraSeleccionada(prueba.m_Lista), -1);
+        EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), Filas{});
+    });
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        EXPECT_EQ(Cuadros::PrimeraSeleccionada(prueba.m_Lista), 1);
+        EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), (Filas{1, 2, 4}));
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.list(IDC_PRUEBA_LISTA).choose({4, 1, 2});
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, TellTheKeyThatIsPressedInThem) {
+    std::vector<WORD> teclas;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 2); });
+    kit::Script script;
+    script.onDialog([&](kit::Dialog& vista) {
+        const Escucha escucha(vista.handle(), [&](UINT mensaje, WPARAM, LPARAM lParam) {
+            const auto* const aviso = reinterpret_cast<const NMHDR*>(lParam);
+            if (mensaje == WM_NOTIFY && aviso->code == LVN_KEYDOWN)
+                teclas.push_back(Cuadros::TeclaPulsada(aviso));
+            return std::nullopt;
+        });
+        vista.focusOn(IDC_PRUEBA_LISTA);
+        kit::keyboard::press(VK_INSERT);
+        kit::keyboard::press(VK_DELETE);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(teclas, (std::vector<WORD>{VK_INSERT, VK_DELETE}));
 }
 
 TEST(Listas, AreDrawnAgainOnceTheyAreFilled) {

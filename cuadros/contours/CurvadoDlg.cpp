@@ -27,7 +27,7 @@ constexpr double Avanzado1PorEscala = 0.00004;
 constexpr double Avanzado2PorEscala = 0.0002;
 
 CComboBox& TiposSuavizado(const CWnd& dialogo) {
-    return *static_cast<CComboBox*>(dialogo.GetDlgItem(IDC_CURVADO_TIPO_SUAVIZADO));
+    return Cuadros::Control<CComboBox>(dialogo, IDC_CURVADO_TIPO_SUAVIZADO);
 }
 
 } // namespace
@@ -83,8 +83,8 @@ END_MESSAGE_MAP()
 BOOL CCurvadoDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Cuadros::CentraConIcono(*this, IDI_CURVADO);
-    static_cast<CSpinButtonCtrl*>(GetDlgItem(IDC_CURVADO_NIVEL_FLECHAS))
-        ->SetRange(NivelMinimo, NivelMaximo);
+    Cuadros::Control<CSpinButtonCtrl>(*this, IDC_CURVADO_NIVEL_FLECHAS)
+        .SetRange(NivelMinimo, NivelMaximo);
     TiposSuavizado(*this).SetCurSel(m_pData->m_TipoSuavizado);
     Cuadros::Muestra(
         *this, m_Extras,
@@ -125,16 +125,12 @@ void CCurvadoDlg::OnCheckLimite() {
 void CCurvadoDlg::OnAvanzado() {
     // Kept: nothing is exchanged first; the scale is that of its last change that was a number. The
     // host's dialog has no parent.
-    double valor1 = m_pData->m_ValorAvanzado1;
-    double valor2 = m_pData->m_ValorAvanzado2;
-    int porEscala = m_pData->m_AvanzadoPorEscala;
-    Cotana::CCurvadoAvanzadoDlg dialogo(static_cast<int>(m_pData->m_Escala), valor1, valor2,
-                                        porEscala, nullptr);
-    if (dialogo.DoModal() != IDOK)
-        return;
-    m_pData->m_ValorAvanzado1 = valor1;
-    m_pData->m_ValorAvanzado2 = valor2;
-    m_pData->m_AvanzadoPorEscala = porEscala;
+    const int escala = static_cast<int>(m_pData->m_Escala);
+    Cuadros::EditaCopia(
+        [=](auto&... valores) {
+            return Cotana::CCurvadoAvanzadoDlg(escala, valores..., nullptr).DoModal();
+        },
+        m_pData->m_ValorAvanzado1, m_pData->m_ValorAvanzado2, m_pData->m_AvanzadoPorEscala);
 }
 
 void CCurvadoDlg::OnChangeEscalaCurvado() {
@@ -147,19 +143,10 @@ void CCurvadoDlg::OnChangeEscalaCurvado() {
 }
 
 void CCurvadoDlg::OnBnClickedCodigosCurvas() {
-    CString codigo1 = m_pData->m_CodigoCurvas1;
-    CString codigo2 = m_pData->m_CodigoCurvas2;
-    CString codigo3 = m_pData->m_CodigoCurvas3;
-    CString codigo4 = m_pData->m_CodigoCurvas4;
-    CString codigo5 = m_pData->m_CodigoCurvas5;
-    CCurvadoCodigosDlg dialogo(codigo1, codigo2, codigo3, codigo4, codigo5, this);
-    if (dialogo.DoModal() != IDOK)
-        return;
-    m_pData->m_CodigoCurvas1 = codigo1;
-    m_pData->m_CodigoCurvas2 = codigo2;
-    m_pData->m_CodigoCurvas3 = codigo3;
-    m_pData->m_CodigoCurvas4 = codigo4;
-    m_pData->m_CodigoCurvas5 = codigo5;
+    Cuadros::EditaCopia(
+        [this](auto&... codigos) { return CCurvadoCodigosDlg(codigos..., this).DoModal(); },
+        m_pData->m_CodigoCurvas1, m_pData->m_CodigoCurvas2, m_pData->m_CodigoCurvas3,
+        m_pData->m_CodigoCurvas4, m_pData->m_CodigoCurvas5);
 }
 
 void CCurvadoDlg::OnCbnSelchangeTipoSuavizado() {

@@ -20,4 +20,15 @@ void Muestra(CWnd& dialogo, int como, std::initializer_list<int> controles) {
         dialogo.GetDlgItem(control)->ShowWindow(como);
 }
 
+void FaltaControl(const CWnd& dialogo, int numero) {
+    if (dialogo.m_hWnd == nullptr)
+        AfxThrowUserException();
+    CString titulo;
+    dialogo.GetWindowText(titulo);
+    CString linea;
+    linea.Format(L"Cuadros: the dialog \"%s\" has no control %d.\n", titulo.GetString(), numero);
+    OutputDebugString(linea);
+    AfxThrowNotSupportedException();
+}
+
 } // namespace Cuadros

@@ -15,4 +15,19 @@ void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> contro
 /// @param como Windows' show command: 0 (`SW_HIDE`) hides; every other is passed on as it is.
 void Muestra(CWnd& dialogo, int como, std::initializer_list<int> controles);
 
+/// Tells the debug output that the template of a dialog lacks a control, and abandons what is being
+/// done: by `CNotSupportedException`, as an exchange does, which ends a dialog that is opening
+/// with -1; by `CUserException`, of which nobody is told, where the dialog's window is gone.
+[[noreturn]] void FaltaControl(const CWnd& dialogo, int numero);
+
+/// The control of a dialog with this number as an object of its class, as in
+/// `Control<CComboBox>(*this, IDC_TIPOS)`; see `FaltaControl` for one that is absent.
+template <class Clase>
+Clase& Control(const CWnd& dialogo, int numero) {
+    CWnd* const control = dialogo.GetDlgItem(numero);
+    if (control == nullptr)
+        FaltaControl(dialogo, numero);
+    return *static_cast<Clase*>(control);
+}
+
 } // namespace Cuadros

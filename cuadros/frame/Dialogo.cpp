@@ -23,7 +23,15 @@ void CentraConIcono(CWnd& dialogo, UINT icono) {
 }
 
 void Rechaza(CWnd& dialogo, UINT mensaje) {
-    dialogo.MessageBox(Texto(mensaje), Texto(IDS_TITULO_MENSAJES), MB_ICONERROR);
+    Rechaza(dialogo, Texto(mensaje), Texto(IDS_TITULO_MENSAJES));
+}
+
+void Rechaza(CWnd& dialogo, const CString& texto, LPCTSTR titulo) {
+    dialogo.MessageBox(texto, titulo, MB_ICONERROR);
+}
+
+bool Pregunta(CWnd& dialogo, UINT pregunta) {
+    return dialogo.MessageBox(Texto(pregunta), L"", MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 void AbreAyuda(UINT plantilla) {

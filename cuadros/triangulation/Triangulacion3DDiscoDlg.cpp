@@ -78,11 +78,9 @@ void CTriangulacion3DDiscoDlg::OnDropFiles(HDROP hDropInfo) {
 void CTriangulacion3DDiscoDlg::OnOK() {
     // Kept: a number that is refused here does not stop the list from reaching the host.
     UpdateData(TRUE);
-    if (m_ListaHojas.GetCount() == 0) {
-        // Kept: the caption is not that of the other messages.
-        MessageBox(Cuadros::Texto(IDS_SIN_FICHEROS), L"Error", MB_ICONERROR);
-        return;
-    }
+    // Kept: the caption is not that of the other messages.
+    if (m_ListaHojas.GetCount() == 0)
+        return Cuadros::Rechaza(*this, Cuadros::Texto(IDS_SIN_FICHEROS), L"Error");
     Cuadros::RecogeHojas(m_ListaHojas, *m_pFicheros);
     CDialog::OnOK();
 }

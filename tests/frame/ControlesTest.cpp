@@ -104,6 +104,60 @@ TEST(Controles, AreHiddenAndShownTogether) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
+TEST(Controles, AreObjectsOfTheirClass) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        Cuadros::Control<CButton>(prueba, IDC_PRUEBA_CASILLA).SetCheck(BST_CHECKED);
+        EXPECT_EQ(&Cuadros::Control<CListCtrl>(prueba, IDC_PRUEBA_LISTA), &prueba.m_Lista);
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        EXPECT_TRUE(vista.checked(IDC_PRUEBA_CASILLA));
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+namespace {
+
+void UsaElQueFalta(CDialogoPrueba& prueba) {
+    constexpr int ninguno = 29999;
+    Cuadros::Control<CComboBox>(prueba, ninguno).SetCurSel(0);
+    ADD_FAILURE() << "went on without the control";
+}
+
+} // namespace
+
+TEST(Controles, ThatTheTemplateLacksEndTheOpening) {
+    CDialogoPrueba dialogo(UsaElQueFalta);
+    EXPECT_EQ(dialogo.DoModal(), -1);
+}
+
+TEST(Controles, ThatTheTemplateLacksAbandonWhatTheUserDid) {
+    CDialogoPrueba dialogo(NadaAlAbrir);
+    dialogo.AlAceptar(UsaElQueFalta);
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        EXPECT_TRUE(vista.enabled(IDOK));
+        vista.press(IDCANCEL);
+    });
+    CString noSePuede;
+    ASSERT_TRUE(noSePuede.LoadString(AFX_IDS_NOT_SUPPORTED_EXCEPTION));
+    script.expectMessage(AfxGetAppName(), noSePuede, MB_ICONSTOP);
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Controles, OfADialogThatIsGoneAbandonItInSilence) {
+    CDialogoPrueba dialogo(NadaAlAbrir);
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        prueba.DestroyWindow();
+        UsaElQueFalta(prueba);
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) { vista.pressLater(IDOK); });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), -1);
+}
+
 TEST(Controles, AreVisitedInTheOrderOfTheList) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         const std::vector<int> alReves = {IDC_PRUEBA_OTRO_TEXTO, IDC_PRUEBA_TEXTO};

@@ -8,6 +8,8 @@
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
+#include <vector>
+
 namespace {
 
 HICON IconoDe(const kit::Dialog& vista, WPARAM cual) {
@@ -77,6 +79,67 @@ TEST(Dialogo, RefusesInABoxThatTheDialogOwns) {
         .buttons(MB_OK)
         .ownedByDialog();
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Dialogo, RefusesUnderACaptionOfItsOwn) {
+    CDialogoPrueba dialogo(NadaAlAbrir);
+    dialogo.AlAceptar(
+        [](CDialogoPrueba& prueba) { Cuadros::Rechaza(prueba, L"There is nothing.", L"Error"); });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    script.expectMessage(L"Error", L"There is nothing.", MB_ICONERROR)
+        .buttons(MB_OK)
+        .ownedByDialog();
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Dialogo, AsksYesOrNoWithoutACaption) {
+    CDialogoPrueba dialogo(NadaAlAbrir);
+    std::vector<bool> respuestas;
+    dialogo.AlAceptar([&](CDialogoPrueba& prueba) {
+        respuestas.push_back(Cuadros::Pregunta(prueba, IDS_PRUEBA_MENSAJE));
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    for (const int respuesta : {IDYES, IDNO})
+        script.expectMessage(L"", L"Something is wrong.", MB_ICONQUESTION)
+            .buttons(MB_YESNO)
+            .defaultButton(IDYES)
+            .ownedByDialog()
+            .answer(respuesta);
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+    EXPECT_EQ(respuestas, (std::vector<bool>{true, false}));
+}
+
+TEST(Dialogo, CopiesOfItsValuesAreWrittenBackByOkAlone) {
+    for (const INT_PTR resultado : {INT_PTR{IDOK}, INT_PTR{IDCANCEL}, INT_PTR{-1}, INT_PTR{0}}) {
+        CString texto(L"before");
+        std::vector<int> lista{1, 2};
+        double valor = 1.5;
+        Cuadros::EditaCopia(
+            [&](CString& suTexto, std::vector<int>& suLista, double& suValor) {
+                EXPECT_EQ(suTexto, L"before");
+                EXPECT_EQ(suLista, (std::vector<int>{1, 2}));
+                suTexto = L"after";
+                suLista.push_back(3);
+                suValor = 2.5;
+                EXPECT_EQ(texto, L"before");
+                EXPECT_EQ(lista.size(), 2U);
+                EXPECT_EQ(valor, 1.5);
+                return resultado;
+            },
+            texto, lista, valor);
+        EXPECT_EQ(texto, resultado == IDOK ? L"after" : L"before");
+        EXPECT_EQ(lista.size(), resultado == IDOK ? 3U : 2U);
+        EXPECT_EQ(valor, resultado == IDOK ? 2.5 : 1.5);
+    }
 }
 
 TEST(Dialogo, HelpContextIsTheTemplateNumberAboveItsBase) {

@@ -64,7 +64,7 @@ TEST(Numeros, AreReadAsFarAsTheyGo) {
 }
 
 TEST(Numeros, ThatAreNoneReadAsZero) {
-    for (const wchar_t* texto : {L"", L"  ", L"abc", L"-", L".", L"m 12", L"--1"}) {
+    for (const wchar_t* texto : {L"", L"  ", L"abc", L"-", L".", L"m 12", L"--1", L"inf", L"nan"}) {
         EXPECT_EQ(Cuadros::LeeNumero(texto), 0) << kit::utf8(texto);
         EXPECT_EQ(Cuadros::LeeEntero(texto), 0) << kit::utf8(texto);
     }

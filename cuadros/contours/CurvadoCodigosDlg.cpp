@@ -1,6 +1,5 @@
 #include "cuadros/contours/CurvadoCodigosDlg.h"
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"

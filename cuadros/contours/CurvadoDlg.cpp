@@ -5,7 +5,6 @@
 #include <cotana/dialogos_dibujo/CurvadoAvanzadoDlg.h>
 
 #include "cuadros/contours/CurvadoCodigosDlg.h"
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Numeros.h"
 #include "cuadros/frame/Peticiones.h"

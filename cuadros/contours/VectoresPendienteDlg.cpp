@@ -1,6 +1,5 @@
 #include "cuadros/contours/VectoresPendienteDlg.h"
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Peticiones.h"
 #include "cuadros/resources/ContoursIds.h"

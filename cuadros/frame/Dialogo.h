@@ -1,11 +1,14 @@
 // What nearly every dialog does: it opens in the middle of its owner with its icon, reads its texts
 // by number, refuses a value with a message or asks yes or no, lets another dialog edit a copy of
-// its values, and opens its page of the host's help.
+// its values, and opens its page of the host's help. What it does to its controls comes with it.
 #pragma once
 
 #include <afxwin.h>
 
 #include <tuple>
+#include <utility>
+
+#include "cuadros/frame/Controles.h"
 
 namespace Cuadros {
 

@@ -4,7 +4,9 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 #include <string>
+#include <type_traits>
 
 namespace Cuadros {
 
@@ -25,8 +27,9 @@ CString Entero(int valor) {
 }
 
 double LeeNumero(const CString& texto) {
-    static const _locale_t conPunto = _create_locale(LC_NUMERIC, "C");
-    return _wtof_l(texto, conPunto);
+    static const std::unique_ptr<std::remove_pointer_t<_locale_t>, decltype(&_free_locale)>
+        conPunto(_create_locale(LC_NUMERIC, "C"), &_free_locale);
+    return _wtof_l(texto, conPunto.get());
 }
 
 int LeeEntero(const CString& texto) {

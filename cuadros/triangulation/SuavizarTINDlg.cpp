@@ -1,6 +1,5 @@
 #include "cuadros/triangulation/SuavizarTINDlg.h"
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"

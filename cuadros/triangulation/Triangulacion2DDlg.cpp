@@ -1,6 +1,5 @@
 #include "cuadros/triangulation/Triangulacion2DDlg.h"
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
 #include "cuadros/frame/Numeros.h"

@@ -1,6 +1,5 @@
 #include "cuadros/triangulation/Triangulacion3DDiscoDlg.h"
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Peticiones.h"
 #include "cuadros/resources/IconIds.h"

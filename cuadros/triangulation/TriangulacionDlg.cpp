@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "cuadros/frame/Controles.h"
 #include "cuadros/frame/Dialogo.h"
 #include "cuadros/frame/Listas.h"
 #include "cuadros/frame/Numeros.h"

@@ -7,6 +7,8 @@
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
+#include <afxdlgs.h>
+
 #include <colordlg.h>
 #include <dlgs.h>
 
@@ -98,6 +100,16 @@ TEST(Peticiones, OfAHostWithoutAPromptAreCancelled) {
 
 namespace {
 
+/// What the system was asked for a file, as the object that is attached to a child of its dialog
+/// has it; null when there is none.
+const OPENFILENAME* Pedido(const kit::Dialog& sistema) {
+    HWND hijo = GetWindow(sistema.handle(), GW_CHILD);
+    for (; hijo != nullptr; hijo = GetWindow(hijo, GW_HWNDNEXT))
+        if (auto* const objeto = dynamic_cast<CFileDialog*>(CWnd::FromHandlePermanent(hijo)))
+            return &objeto->GetOFN();
+    return nullptr;
+}
+
 /// A dialog whose OK asks the system where to write, over a folder that is gone afterwards.
 class PeticionesAlSistema : public testing::Test {
 protected:
@@ -153,6 +165,10 @@ TEST_F(PeticionesAlSistema, BeginWithTheNameAndReturnTheWholePath) {
         EXPECT_EQ(sistema.owner(), Dialogo());
         EXPECT_FALSE(IsWindowEnabled(Dialogo()));
         EXPECT_EQ(sistema.text(cmb13), L"before.txt");
+        const OPENFILENAME* const pedido = Pedido(sistema);
+        ASSERT_NE(pedido, nullptr);
+        constexpr DWORD suyas = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING;
+        EXPECT_EQ(pedido->Flags & ~suyas, 0x2002U);
         const auto filtros = sistema.combo(cmb1);
         EXPECT_EQ(filtros.count(), 2);
         EXPECT_EQ(filtros.text(0), L"Texts (*.txt)");
@@ -223,6 +239,11 @@ TEST(Peticiones, OfAColourBeginWithItAndReturnTheChosenOne) {
         // Fully open: any colour can be composed at once.
         EXPECT_TRUE(sistema.visible(COLOR_RED));
         EXPECT_FALSE(sistema.enabled(COLOR_MIX));
+        const auto* const objeto =
+            dynamic_cast<CColorDialog*>(CWnd::FromHandlePermanent(sistema.handle()));
+        ASSERT_NE(objeto, nullptr);
+        constexpr DWORD opciones = CC_FULLOPEN | CC_ANYCOLOR;
+        EXPECT_EQ(objeto->m_cc.Flags & opciones, opciones);
         sistema.setText(COLOR_RED, L"10");
         sistema.setText(COLOR_GREEN, L"120");
         sistema.setText(COLOR_BLUE, L"230");

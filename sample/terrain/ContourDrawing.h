@@ -62,6 +62,7 @@ struct ContourDrawing {
 /// too short has none.
 ///
 /// @return empty; else one line that says why the drawing has no labels: the height or the spacing
-///         is not above 0, or there would be more than 100,000. They are untouched then.
+///         is not above 0, or there would be more than 100,000 if each found its place. They are
+///         untouched then.
 /// Throws std::bad_alloc when they do not fit into memory.
 CString LabelContours(const ContourLabelStyle& style, ContourDrawing& drawing);

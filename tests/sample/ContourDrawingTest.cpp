@@ -196,8 +196,24 @@ TEST(ContourDrawing, LabelsWithoutSizeOrWithoutEndAreRefused) {
                   L"the height and the spacing of labels have to be above 0");
     }
     EXPECT_EQ(LabelContours({0.001, 0.001, 0, true}, drawing),
-              L"there are more than 100000 labels: choose a larger spacing or height");
+              L"there would be more than 100000 labels: choose a larger spacing or height");
     EXPECT_EQ(drawing.labels.size(), 1u) << "they were touched";
+}
+
+TEST(ContourDrawing, LabelsThatFindNoPlaceCountAsWell) {
+    // Room for 50,000 labels, were it not bent everywhere: legs of half a metre, labels of one, two
+    // metres from each other.
+    std::vector<MapPoint> zigzag;
+    for (int point = 0; point <= 4 * 50'000 + 1; ++point)
+        zigzag.push_back({0.3 * point, point % 2 ? 0.4 : 0});
+    ContourDrawing drawing = DrawingOf(std::move(zigzag));
+    drawing.contours.push_back(drawing.contours[0]);
+    const ContourLabelStyle style = {0.4, 2, 0, true};
+    EXPECT_EQ(LabelContours(style, drawing), L"");
+    EXPECT_TRUE(drawing.labels.empty());
+    drawing.contours.push_back({{250, true}, false, false, {{0, 0}, {100, 0}}});
+    EXPECT_EQ(LabelContours(style, drawing),
+              L"there would be more than 100000 labels: choose a larger spacing or height");
 }
 
 TEST(ContourDrawing, NumbersAreWrittenAlikeInEveryCountry) {

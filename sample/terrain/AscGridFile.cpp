@@ -229,7 +229,9 @@ struct Header {
 };
 
 bool IsNumberLike(std::string_view word) {
-    return std::string_view("+-.0123456789").find(word[0]) != std::string_view::npos || IsNan(word);
+    // "inf" is a number, too.
+    return std::string_view("+-.0123456789").find(word[0]) != std::string_view::npos ||
+           Number(word);
 }
 
 /// Reads up to the first elevation, which is then the last word.

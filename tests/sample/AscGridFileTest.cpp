@@ -180,6 +180,8 @@ TEST(AscGridFile, NamesTheLineAndWhatIsWrong) {
          "hills.asc(7): the elevation in row 1, column 2 is not a finite number: inf"},
         {header + "nan 2 3",
          "hills.asc(6): the elevation in row 1, column 1 is not a finite number: nan"},
+        {header + "inf 2 3",
+         "hills.asc(6): the elevation in row 1, column 1 is not a finite number: inf"},
         {header + "1 2 x", "hills.asc(6): the elevation in row 1, column 3 is not a number: x"},
         {header + "1 2 3\n4,5 6",
          "hills.asc(7): the elevation in row 2, column 1 is not a number: 4,5"},

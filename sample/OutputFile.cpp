@@ -21,14 +21,23 @@ constexpr size_t BufferSize = 64 * 1024;
 
 } // namespace
 
-OutputFile::OutputFile(const CString& name)
-    : m_Name(name), m_Part(name + L".part"), m_Handle(INVALID_HANDLE_VALUE) {
+OutputFile::OutputFile(const CString& name) : m_Name(name), m_Handle(INVALID_HANDLE_VALUE) {
     // First what may throw: of half an object nobody closes the file.
     m_Buffer.reserve(BufferSize);
-    m_Handle = CreateFileW(m_Part, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                           nullptr);
-    if (m_Handle == INVALID_HANDLE_VALUE)
+    m_Part = name + L".part";
+    for (int next = 2; !Open(); ++next)
+        m_Part.Format(L"%s.part%d", name.GetString(), next);
+}
+
+bool OutputFile::Open() {
+    m_Handle =
+        CreateFileW(m_Part, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (m_Handle != INVALID_HANDLE_VALUE)
+        return true;
+    const DWORD error = GetLastError();
+    if (error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS)
         ThrowLastError();
+    return false;
 }
 
 OutputFile::~OutputFile() {

@@ -7,8 +7,8 @@
 #include <string_view>
 
 /// A text file that is written from its front, through a small buffer. It is written beside its
-/// name, as <name>.part, and gets the name when it is complete: what stood there before is never
-/// lost to half a file.
+/// name, as <name>.part, or <name>.part2 and so on where that is somebody's file, and gets the name
+/// when it is complete: what stood there before is never lost to half a file.
 class OutputFile {
 public:
     /// Throws a Fault when Windows does not make the file.
@@ -25,6 +25,8 @@ public:
     void Complete();
 
 private:
+    /// @return false when there is a file of that name already; throws a Fault as above.
+    bool Open();
     void Flush();
 
     CString m_Name;

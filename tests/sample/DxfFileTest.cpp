@@ -327,3 +327,16 @@ TEST(DxfFile, AFileInUseStaysAsItWas) {
     EXPECT_EQ(WriteDxfFile(file.Name(), SmallDrawing()), L"");
     EXPECT_NE(file.Bytes(), "as it was");
 }
+
+TEST(DxfFile, FilesThatBearTheNamesOfHalfAFileStayAsTheyWere) {
+    const TemporaryFile file("");
+    const CString part = CString(file.Name()) + L".part";
+    ASSERT_TRUE(MoveFileW(TemporaryFile("the user's own").Name(), part));
+    ASSERT_TRUE(CreateDirectoryW(part + L"2", nullptr));
+    EXPECT_EQ(WriteDxfFile(file.Name(), SmallDrawing()), L"");
+    EXPECT_EQ(BytesOf(part), "the user's own");
+    EXPECT_NE(BytesOf(file.Name()), "");
+    EXPECT_EQ(GetFileAttributesW(part + L"3"), INVALID_FILE_ATTRIBUTES);
+    EXPECT_TRUE(RemoveDirectoryW(part + L"2"));
+    EXPECT_TRUE(DeleteFileW(part));
+}

@@ -5,6 +5,17 @@
 
 #include <windows.h>
 
+/// What is in a file now.
+inline std::string BytesOf(const wchar_t* name) {
+    const HANDLE file =
+        CreateFileW(name, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    std::string bytes(GetFileSize(file, nullptr), '\0');
+    DWORD read = 0;
+    ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+    CloseHandle(file);
+    return bytes;
+}
+
 /// A file that exists while the test runs.
 class TemporaryFile {
 public:
@@ -24,16 +35,7 @@ public:
 
     const wchar_t* Name() const { return name_; }
 
-    /// What is in it now.
-    std::string Bytes() const {
-        const HANDLE file =
-            CreateFileW(name_, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-        std::string bytes(GetFileSize(file, nullptr), '\0');
-        DWORD read = 0;
-        ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-        CloseHandle(file);
-        return bytes;
-    }
+    std::string Bytes() const { return BytesOf(name_); }
 
 private:
     wchar_t name_[MAX_PATH] = {};

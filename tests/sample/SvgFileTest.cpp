@@ -2,7 +2,7 @@
 
 #include "kit/kit.h"
 
-#include <regex>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -18,21 +18,50 @@ std::string Written(const ContourDrawing& drawing) {
     return file.Bytes();
 }
 
-/// What a pattern finds, each time: its first group.
-std::vector<std::string> All(const std::string& text, const char* pattern) {
-    const std::regex expression(pattern);
-    std::vector<std::string> found;
-    for (std::sregex_iterator one(text.begin(), text.end(), expression), end; one != end; ++one)
-        found.push_back((*one)[1]);
-    return found;
-}
-
-std::string First(const std::string& text, const char* pattern) {
-    const auto found = All(text, pattern);
-    return found.empty() ? "" : found[0];
-}
-
 using Texts = std::vector<std::string>;
+
+/// The values of an attribute of all elements of a name, in their order.
+Texts Values(const std::string& svg, const std::string& element, const std::string& attribute) {
+    const std::string before = " " + attribute + "=\"";
+    Texts values;
+    for (size_t at = 0; (at = svg.find("<" + element + " ", at)) != svg.npos; ++at) {
+        const std::string tag = svg.substr(at, svg.find('>', at) - at);
+        const size_t found = tag.find(before);
+        if (found == tag.npos)
+            continue;
+        const size_t begin = found + before.size();
+        values.push_back(tag.substr(begin, tag.find('"', begin) - begin));
+    }
+    return values;
+}
+
+std::string Value(const std::string& svg, const std::string& element,
+                  const std::string& attribute) {
+    const Texts values = Values(svg, element, attribute);
+    return values.empty() ? "" : values[0];
+}
+
+/// The texts within all elements of a name.
+Texts Contents(const std::string& svg, const std::string& element) {
+    Texts contents;
+    for (size_t at = 0; (at = svg.find("<" + element, at)) != svg.npos; ++at) {
+        const size_t begin = svg.find('>', at) + 1;
+        contents.push_back(svg.substr(begin, svg.find('<', begin) - begin));
+    }
+    return contents;
+}
+
+bool HasAPowerOfTen(const std::string& text) {
+    constexpr std::string_view digits = "0123456789";
+    for (size_t at = 1; (at = text.find_first_of("eE", at)) != text.npos; ++at) {
+        const auto is = [&](size_t place, const std::string& what) {
+            return place < text.size() && what.find(text[place]) != what.npos;
+        };
+        if (is(at - 1, std::string(digits)) && is(at + 1, std::string(digits) + "+-"))
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -40,37 +69,35 @@ TEST(SvgFile, HasItsSizeOnPaperAndMetresWithin) {
     const std::string svg = Written(SmallDrawing());
     EXPECT_TRUE(svg.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg "));
     EXPECT_TRUE(svg.ends_with("</svg>\n"));
-    EXPECT_EQ(First(svg, "viewBox=\"([^\"]*)\""), "0 0 100.000 80.000");
-    EXPECT_EQ(First(svg, "<svg[^>]* width=\"([^\"]*)\""), "200.000mm");
-    EXPECT_EQ(First(svg, "<svg[^>]* height=\"([^\"]*)\""), "160.000mm");
-    EXPECT_EQ(First(svg, "<desc>([^<]*)"),
-              "Metres east and south of 437200.000 4486380.000; scale 1:500");
+    EXPECT_EQ(Value(svg, "svg", "viewBox"), "0 0 100.000 80.000");
+    EXPECT_EQ(Value(svg, "svg", "width"), "200.000mm");
+    EXPECT_EQ(Value(svg, "svg", "height"), "160.000mm");
+    EXPECT_EQ(Contents(svg, "desc"),
+              Texts{"Metres east and south of 437200.000 4486380.000; scale 1:500"});
 }
 
 TEST(SvgFile, LinesHaveTheirPointsAndElevation) {
     const std::string svg = Written(SmallDrawing());
-    EXPECT_EQ(All(svg, "data-elevation=\"([^\"]*)\""),
-              (Texts{"-2.500000", "12.300000", "0.000000"}));
-    EXPECT_EQ(All(svg, " d=\"([^\"]*)\""),
+    EXPECT_EQ(Values(svg, "path", "data-elevation"), (Texts{"-2.500000", "12.300000", "0.000000"}));
+    EXPECT_EQ(Values(svg, "path", "d"),
               (Texts{"M0.000,80.000 50.125,69.750", "M30.000,70.000 40.000,60.000 40.000,70.000z",
                      "M10.000,70.000 20.000,70.000 20.000,60.000z"}));
 }
 
 TEST(SvgFile, MastersAreThickerAndLast) {
     const std::string svg = Written(SmallDrawing());
-    EXPECT_EQ(All(svg, "<g id=\"([^\"]*)\""),
-              (Texts{"contours", "depressions", "masters", "labels"}));
-    EXPECT_EQ(All(svg, "<g id=\"[^\"]*\" fill=\"none\"[^>]* stroke-width=\"([^\"]*)\""),
-              (Texts{"0.06500", "0.06500", "0.15000"})); // mm of paper at 1:500
-    EXPECT_EQ(All(svg, "<title>([^<]*)</title>"),
+    EXPECT_EQ(Values(svg, "g", "id"), (Texts{"contours", "depressions", "masters", "labels"}));
+    EXPECT_EQ(Values(svg, "g", "stroke-width"), // mm of paper at 1:500
+              (Texts{"0.06500", "0.06500", "0.15000", "0.75000"}));
+    EXPECT_EQ(Contents(svg, "title"),
               (Texts{"Hills", "CONTOURS", "DEPRESSIONS", "CONTOURS-MASTER", "CONTOURS-TEXT"}));
 }
 
 TEST(SvgFile, LabelsAreTurnedRoundTheirMiddle) {
     const std::string svg = Written(SmallDrawing());
-    EXPECT_EQ(First(svg, "<text transform=\"([^\"]*)\""), "translate(15.000 70.000) rotate(30.00)");
-    EXPECT_EQ(First(svg, "<text[^>]* y=\"([^\"]*)\""), "0.75000");
-    EXPECT_EQ(First(svg, "<text[^>]*>([^<]*)</text>"), "0.0");
+    EXPECT_EQ(Value(svg, "text", "transform"), "translate(15.000 70.000) rotate(30.00)");
+    EXPECT_EQ(Value(svg, "text", "y"), "0.75000");
+    EXPECT_EQ(Contents(svg, "text"), Texts{"0.0"});
 }
 
 TEST(SvgFile, TextsAreEscaped) {
@@ -78,7 +105,7 @@ TEST(SvgFile, TextsAreEscaped) {
     drawing.title = L"<a href=\"x\">&amp; \x00F1\x20AC\x07 '";
     drawing.layers.contours = L"]]>--><&\"";
     const std::string svg = Written(drawing);
-    const auto titles = All(svg, "<title>([^<]*)</title>");
+    const auto titles = Contents(svg, "title");
     ASSERT_EQ(titles.size(), 5u);
     EXPECT_EQ(titles[0], "&lt;a href=&quot;x&quot;&gt;&amp;amp; \xC3\xB1\xE2\x82\xAC  '");
     EXPECT_EQ(titles[1], "]]&gt;--&gt;&lt;&amp;&quot;");
@@ -87,8 +114,8 @@ TEST(SvgFile, TextsAreEscaped) {
 TEST(SvgFile, HalfACharacterIsReplaced) {
     ContourDrawing drawing;
     drawing.title = CString(L"a\xD83D", 2) + L"b\xFFFE" + L"c";
-    EXPECT_EQ(First(Written(drawing), "<title>([^<]*)</title>"), "a\xEF\xBF\xBD"
-                                                                 "b c");
+    EXPECT_EQ(Contents(Written(drawing), "title").at(0), "a\xEF\xBF\xBD"
+                                                         "b c");
 }
 
 TEST(SvgFile, NumbersAreNeverInPowersOfTen) {
@@ -98,9 +125,9 @@ TEST(SvgFile, NumbersAreNeverInPowersOfTen) {
     drawing.scale = 4'000'000'000;
     ASSERT_EQ(TraceContours(grid, {5, 25, {}}, drawing.contours), L"");
     const std::string svg = Written(drawing);
-    EXPECT_TRUE(All(svg, "([0-9][eE][-+0-9])").empty());
-    EXPECT_EQ(All(svg, "(data-elevation)").size(), drawing.contours.size());
-    EXPECT_EQ(First(svg, "viewBox=\"([^\"]*)\""), "0 0 1190.000 890.000");
+    EXPECT_FALSE(HasAPowerOfTen(svg));
+    EXPECT_EQ(Values(svg, "path", "data-elevation").size(), drawing.contours.size());
+    EXPECT_EQ(Value(svg, "svg", "viewBox"), "0 0 1190.000 890.000");
 }
 
 TEST(SvgFile, NoSizeIsZero) {
@@ -114,15 +141,24 @@ TEST(SvgFile, NoSizeIsZero) {
             drawing.labels = {{drawing.southWest, 0, 1, "1"}};
             drawing.labelHeight = drawing.Ground(0.00002);
             const std::string svg = Written(drawing);
-            for (const char* pattern : {"viewBox=\"0 0 ([^ ]*)", "viewBox=\"0 0 [^ ]* ([^\"]*)",
-                                        "<svg[^>]* width=\"([^\"]*)mm\"",
-                                        "<svg[^>]* height=\"([^\"]*)mm\"", "font-size=\"([^\"]*)\"",
-                                        "stroke-width=\"([^\"]*)\"", "<text[^>]* y=\"([^\"]*)\""}) {
-                const Texts sizes = All(svg, pattern);
-                EXPECT_FALSE(sizes.empty()) << pattern;
-                for (const std::string& size : sizes)
-                    EXPECT_NE(size.find_first_of("123456789"), size.npos) << pattern;
+            Texts sizes;
+            std::istringstream box(Value(svg, "svg", "viewBox"));
+            for (std::string size; box >> size;)
+                sizes.push_back(size);
+            ASSERT_EQ(sizes.size(), 4u);
+            sizes.erase(sizes.begin(), sizes.begin() + 2); // where it begins: 0 0
+            for (const auto& [element, attribute] :
+                 std::vector<std::pair<const char*, const char*>>{{"svg", "width"},
+                                                                  {"svg", "height"},
+                                                                  {"g", "font-size"},
+                                                                  {"g", "stroke-width"},
+                                                                  {"text", "y"}}) {
+                const Texts values = Values(svg, element, attribute);
+                EXPECT_FALSE(values.empty()) << attribute;
+                sizes.insert(sizes.end(), values.begin(), values.end());
             }
+            for (const std::string& size : sizes)
+                EXPECT_NE(size.find_first_of("123456789"), size.npos) << size;
         }
     }
 }
@@ -131,14 +167,14 @@ TEST(SvgFile, ASmallPaperIsAsExactAsALargeOne) {
     ContourDrawing drawing = SmallDrawing();
     drawing.scale = 4'000'000'000;
     const std::string svg = Written(drawing);
-    EXPECT_EQ(First(svg, "<svg[^>]* width=\"([^\"]*)\""), "0.00002500mm");
-    EXPECT_EQ(First(svg, "<svg[^>]* height=\"([^\"]*)\""), "0.00002000mm");
+    EXPECT_EQ(Value(svg, "svg", "width"), "0.00002500mm");
+    EXPECT_EQ(Value(svg, "svg", "height"), "0.00002000mm");
 }
 
 TEST(SvgFile, AnEmptyDrawingIsAFile) {
     const std::string svg = Written(ContourDrawing());
     EXPECT_TRUE(svg.ends_with("</svg>\n"));
-    EXPECT_EQ(First(svg, "viewBox=\"([^\"]*)\""), "0 0 0.001 0.001");
+    EXPECT_EQ(Value(svg, "svg", "viewBox"), "0 0 0.001 0.001");
 }
 
 TEST(SvgFile, WhatCannotBeWrittenIsRefusedByName) {

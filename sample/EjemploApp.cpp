@@ -3,32 +3,13 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
-#include <utility>
-
 #include "sample/ClassificationFile.h"
 #include "sample/CodeTableFile.h"
 #include "sample/Conversacion.h"
 #include "sample/LanzadorDlg.h"
-#include "sample/LineaOrdenes.h"
-#include "sample/Recorrido.h"
 #include "sample/Rutas.h"
 #include "sample/terrain/AscGridFile.h"
 #include "sample/terrain/Contours.h"
-
-namespace {
-
-CEjemploApp ejemplo;
-
-LineaOrdenes LineaDelPrograma() {
-    int cuantos = 0;
-    wchar_t** palabras = CommandLineToArgvW(GetCommandLineW(), &cuantos);
-    const std::span<const wchar_t* const> todas(palabras, cuantos);
-    LineaOrdenes linea = LeeLineaOrdenes(todas.subspan(1));
-    LocalFree(palabras);
-    return linea;
-}
-
-} // namespace
 
 CEjemploApp::CEjemploApp() : CAplicacion(L"Ejemplo") {}
 
@@ -36,14 +17,15 @@ BOOL CEjemploApp::InitInstance() {
     CAplicacion::InitInstance();
     EnableHtmlHelp(); // F1 comes to HtmlHelp, as the Help buttons do
 
-    const LineaOrdenes linea = LineaDelPrograma();
+    int cuantas = 0;
+    wchar_t** palabras = CommandLineToArgvW(GetCommandLineW(), &cuantas);
+    const LineaOrdenes linea = LeeOrdenes(std::span(palabras, cuantas).subspan(1));
+    LocalFree(palabras);
     CString error = linea.error;
     if (error.IsEmpty())
         error = LeeTerreno(linea);
     if (error.IsEmpty())
-        error = HazCarpeta(linea.carpetaDibujos.IsEmpty() ? linea.carpetaRecorrido
-                                                          : linea.carpetaDibujos,
-                           m_Terreno.carpetaDibujos);
+        error = HazCarpeta(linea.carpetaDibujos, m_Terreno.carpetaDibujos);
     if (!error.IsEmpty()) {
         if (!Escribe(error + L"\n", true))
             AfxMessageBox(error, MB_ICONERROR);
@@ -51,16 +33,20 @@ BOOL CEjemploApp::InitInstance() {
         return FALSE;
     }
 
-    if (linea.carpetaRecorrido.IsEmpty()) {
-        CLanzadorDlg lanzador(m_Terreno);
-        m_pMainWnd = &lanzador;
-        lanzador.DoModal();
-        m_pMainWnd = nullptr;
-    } else {
-        m_DeRecorrido = true;
-        m_CodigoSalida = Recorre(*this, m_Terreno, linea.carpetaRecorrido) ? 0 : 1;
-    }
-    return FALSE; // the program was the dialog, or the tour: there is no message loop to run
+    m_CodigoSalida = Corre(m_Terreno);
+    return FALSE; // the program was a dialog: there is no message loop to run
+}
+
+LineaOrdenes CEjemploApp::LeeOrdenes(Palabras palabras) {
+    return LeeLineaOrdenes(palabras, L"Ejemplo");
+}
+
+int CEjemploApp::Corre(Terreno& terreno) {
+    CLanzadorDlg lanzador(terreno);
+    m_pMainWnd = &lanzador;
+    lanzador.DoModal();
+    m_pMainWnd = nullptr;
+    return 0;
 }
 
 CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
@@ -71,8 +57,10 @@ CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
         linea.ficheroCodigos.IsEmpty() ? carpeta + L"\\survey-codes.txt" : linea.ficheroCodigos,
         m_Terreno.codigos);
     if (error.IsEmpty())
-        error =
-            ReadClassificationFile(carpeta + L"\\classifications.txt", m_Terreno.clasificaciones);
+        error = ReadClassificationFile(linea.ficheroClasificaciones.IsEmpty()
+                                           ? carpeta + L"\\classifications.txt"
+                                           : linea.ficheroClasificaciones,
+                                       m_Terreno.clasificaciones);
     if (error.IsEmpty())
         error = ReadAscGridFile(linea.ficheroRejilla.IsEmpty() ? carpeta + L"\\terrain\\hills.asc"
                                                                : linea.ficheroRejilla,
@@ -92,14 +80,11 @@ int CEjemploApp::ExitInstance() {
 }
 
 void CEjemploApp::HtmlHelp(DWORD_PTR dwData, UINT) {
-    m_Ayudas.push_back(dwData);
-    if (m_DeRecorrido)
-        return;
-    for (const Conversacion& conversacion : Conversaciones()) {
-        if (conversacion.ayuda != dwData)
+    for (const Conversacion* conversacion : Conversaciones()) {
+        if (conversacion->ayuda != dwData)
             continue;
         const CString pagina =
-            BuscaHaciaArriba(L"docs\\dialogs\\" + CString(conversacion.raiz) + L".md");
+            BuscaHaciaArriba(L"docs\\dialogs\\" + CString(conversacion->raiz) + L".md");
         // As the class of web pages: Windows has no program of its own for this kind of file.
         SHELLEXECUTEINFOW orden = {};
         orden.cbSize = sizeof(orden);
@@ -120,8 +105,4 @@ BOOL CEjemploApp::PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL
     const bool nubes = opciones & OFN_ALLOWMULTISELECT;
     SetCurrentDirectoryW(nubes ? m_Terreno.carpetaNubes : m_Terreno.carpetaLimites);
     return CAplicacion::PideFichero(nombre, titulo, opciones, abrir, plantilla, clase, reservado);
-}
-
-std::vector<DWORD_PTR> CEjemploApp::RecogeAyudas() {
-    return std::exchange(m_Ayudas, {});
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "cotana/aplicacion/Aplicacion.h"
 #include "sample/LineaOrdenes.h"
 #include "sample/Terreno.h"
@@ -14,15 +12,20 @@ public:
     BOOL InitInstance() override;
     int ExitInstance() override;
 
-    /// Opens the dialog's page in the browser; on a tour, notes the request only.
+    /// Opens the dialog's page in the browser.
     void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override;
 
     /// The system's dialog, which opens in the folder of the files that are asked for.
     BOOL PideFichero(CString& nombre, UINT titulo, DWORD opciones, BOOL abrir,
                      CDocTemplate** plantilla, int clase, void* reservado) override;
 
-    /// The help contexts for which the dialogs have asked since the last call.
-    std::vector<DWORD_PTR> RecogeAyudas();
+protected:
+    /// What the command line asks for.
+    virtual LineaOrdenes LeeOrdenes(Palabras palabras);
+
+    /// Opens the launcher over the terrain, until the user closes it.
+    /// @return the program's exit code.
+    virtual int Corre(Terreno& terreno);
 
 private:
     /// Reads the survey and the terrain model, to which it suits the intervals of the contours;
@@ -30,7 +33,5 @@ private:
     CString LeeTerreno(const LineaOrdenes& linea);
 
     Terreno m_Terreno;
-    std::vector<DWORD_PTR> m_Ayudas;
-    bool m_DeRecorrido = false;
     int m_CodigoSalida = 0;
 };

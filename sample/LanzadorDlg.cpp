@@ -31,13 +31,13 @@ BOOL CLanzadorDlg::OnInitDialog() {
 void CLanzadorDlg::LlenaArbol() {
     HTREEITEM subsistema = nullptr, primera = nullptr;
     CString nombre;
-    for (const Conversacion& conversacion : Conversaciones()) {
-        if (nombre != conversacion.subsistema) {
-            nombre = conversacion.subsistema;
+    for (const Conversacion* conversacion : Conversaciones()) {
+        if (nombre != conversacion->subsistema) {
+            nombre = conversacion->subsistema;
             subsistema = m_Arbol.InsertItem(nombre);
         }
-        const HTREEITEM hoja = m_Arbol.InsertItem(conversacion.titulo, subsistema);
-        m_Arbol.SetItemData(hoja, reinterpret_cast<DWORD_PTR>(&conversacion));
+        const HTREEITEM hoja = m_Arbol.InsertItem(conversacion->titulo, subsistema);
+        m_Arbol.SetItemData(hoja, reinterpret_cast<DWORD_PTR>(conversacion));
         m_Arbol.Expand(subsistema, TVE_EXPAND);
         if (!primera)
             primera = hoja;

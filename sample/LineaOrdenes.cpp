@@ -5,13 +5,13 @@ namespace {
 /// An option, and what follows it.
 struct Opcion {
     const wchar_t* palabra;
-    const wchar_t* pide; ///< "the folder for its results"
+    const wchar_t* pide; ///< "an elevation grid"
     CString LineaOrdenes::*destino;
 };
 
 constexpr Opcion Opciones[] = {
-    {L"--tour", L"the folder for its results", &LineaOrdenes::carpetaRecorrido},
     {L"--grid", L"an elevation grid", &LineaOrdenes::ficheroRejilla},
+    {L"--classifications", L"a list of classifications", &LineaOrdenes::ficheroClasificaciones},
     {L"--drawings", L"the folder for drawings", &LineaOrdenes::carpetaDibujos},
 };
 
@@ -24,19 +24,21 @@ const Opcion* Busca(const CString& palabra) {
 
 } // namespace
 
-LineaOrdenes LeeLineaOrdenes(std::span<const wchar_t* const> argumentos) {
+LineaOrdenes LeeLineaOrdenes(Palabras palabras, const wchar_t* programa) {
     LineaOrdenes linea;
-    for (size_t i = 0; i < argumentos.size(); ++i) {
-        const CString palabra = argumentos[i];
+    for (size_t i = 0; i < palabras.size() && linea.error.IsEmpty(); ++i) {
+        const CString palabra = palabras[i];
         if (const Opcion* const opcion = Busca(palabra)) {
-            if (++i == argumentos.size() || *argumentos[i] == L'\0') {
+            CString& destino = linea.*opcion->destino;
+            const CString valor = ++i < palabras.size() ? palabras[i] : L"";
+            if (!destino.IsEmpty())
+                linea.error = palabra + L" is given twice";
+            else if (valor.IsEmpty() || valor[0] == L'-')
                 linea.error = palabra + L" wants " + opcion->pide;
-                break;
-            }
-            linea.*opcion->destino = argumentos[i];
+            destino = valor;
         } else if (palabra.IsEmpty()) {
             linea.error = L"the name of the code table is empty";
-        } else if (palabra.Left(1) == L"-") {
+        } else if (palabra[0] == L'-') {
             linea.error = L"unknown option " + palabra;
         } else if (!linea.ficheroCodigos.IsEmpty()) {
             linea.error = L"more than one code table: " + palabra;
@@ -45,7 +47,11 @@ LineaOrdenes LeeLineaOrdenes(std::span<const wchar_t* const> argumentos) {
         }
     }
     if (!linea.error.IsEmpty())
-        linea.error += L"; usage: Ejemplo [--tour FOLDER] [--grid ASC-FILE] [--drawings FOLDER] "
-                       L"[CODE-TABLE-FILE]";
+        linea.error += Uso(programa);
     return linea;
+}
+
+CString Uso(const wchar_t* programa) {
+    return CString(L"; usage: ") + programa +
+           L" [--grid ASC-FILE] [--classifications FILE] [--drawings FOLDER] [CODE-TABLE-FILE]";
 }

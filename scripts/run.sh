@@ -2,7 +2,8 @@
 # Builds and runs the sample host. With a display its window opens; without one, or with
 # --tour, every conversation is opened, driven and confirmed, and a page shows them.
 #
-#   scripts/run.sh [--tour] [--grid ASC-FILE] [--drawings FOLDER] [CODE-TABLE-FILE]
+#   scripts/run.sh [--tour] [--grid ASC-FILE] [--classifications FILE] [--drawings FOLDER]
+#                  [CODE-TABLE-FILE]
 set -euo pipefail
 # Names are meant as their user sees them, whatever folder the scripts work in.
 [ -n "${CUADROS_LOCKED:-}" ] || export CUADROS_CALLER=$PWD
@@ -10,10 +11,20 @@ set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 
 display=${DISPLAY:-}
+tour=
+drawings=(--drawings build/drawings)
 arguments=()
 for argument in "$@"; do
   case $argument in
-    --tour) display= ;;
+    --tour)
+      [ -z "$tour" ] || die "--tour is given twice"
+      tour=yes
+      display=
+      ;;
+    --drawings)
+      drawings=() # the user's own instead
+      arguments+=("$argument")
+      ;;
     '' | -* | /* | ?:* | '\\'*) arguments+=("$argument") ;;
     *) arguments+=("${CUADROS_CALLER%/}/$argument") ;;
   esac
@@ -31,10 +42,10 @@ export CUADROS_DISPLAY=$display
 start
 build release
 
-ejemplo=build/release/bin/Ejemplo.exe
+bin=build/release/bin
 if [ -n "$display" ]; then
   say "Opening the sample host's window"
-  wine "$ejemplo" --drawings build/drawings "$@"
+  wine "$bin/Ejemplo.exe" ${drawings[@]+"${drawings[@]}"} "$@"
 else
   say "Touring the conversations, without a display"
   # What the last tour has left is lost to the next one, but not to a refused one.
@@ -42,7 +53,7 @@ else
     rm -rf build/tour.last
     mv build/tour build/tour.last
   fi
-  wine "$ejemplo" --tour build/tour "$@" </dev/null || {
+  wine "$bin/Recorrido.exe" build/tour "$@" </dev/null || {
     status=$?
     [ -d build/tour ] || [ ! -d build/tour.last ] || mv build/tour.last build/tour
     exit "$status"

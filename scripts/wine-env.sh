@@ -57,12 +57,12 @@ wine_settings() {
   fi
   # A crash ends the program; Wine's dialog about it would wait for ever.
   printf '[HKEY_CURRENT_USER\\Software\\Wine\\WineDbg]\n"ShowCrashDialog"=dword:00000000\n\n'
-  # Heap checking on, so for every test program. Not for the benchmark and the sample host, whose
-  # long lists and contours of large terrains it would make many times as slow.
+  # Heap checking on, so for every test program. Not for the benchmark, the sample host and its
+  # tour, whose long lists and contours of large terrains it would make many times as slow.
   printf '[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Control\\Session Manager]\n'
   printf '"GlobalFlag"=dword:00000030\n\n'
   local program
-  for program in bench bench-raw Ejemplo; do
+  for program in bench bench-raw Ejemplo Recorrido; do
     printf '[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion'
     printf '\\Image File Execution Options\\%s.exe]\n"GlobalFlag"=dword:00000000\n\n' "$program"
   done

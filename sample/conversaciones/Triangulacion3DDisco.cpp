@@ -1,40 +1,24 @@
-#include "sample/conversaciones/Triangulacion3DDisco.h"
+#include "sample/Conversacion.h"
 
-#include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/Triangulacion3DDiscoDlg.h"
-#include "sample/conversaciones/PreguntaFicheros.h"
 
-void PreparaTriangulacion3DDisco(Terreno&) {}
-
-INT_PTR AbreTriangulacion3DDisco(Terreno& terreno, CWnd* padre) {
-    DatosTriangulacion3DDisco& datos = terreno.triangulacion3DDisco;
-    return Cotana::CTriangulacion3DDiscoDlg(datos.ficheros, nullptr, datos.valor, datos.opcion,
-                                            padre)
-        .DoModal();
-}
-
-Ficha FichaTriangulacion3DDisco(const Terreno& terreno) {
-    const DatosTriangulacion3DDisco& datos = terreno.triangulacion3DDisco;
-    return {
-        {L"ficheros", Valor(datos.ficheros)},
-        {L"valor", Valor(datos.valor)},
-        {L"opcion", Valor(datos.opcion)},
-    };
-}
-
-void ConduceTriangulacion3DDisco(Visita& visita) {
-    visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {
-        visita.Fotografia(dialogo.handle(), L"As it opens: the list is empty, and OK waits.");
-        dialogo.press(IDC_TRIANGULACION_3D_DISCO_SUMAR);
-        dialogo.drop({NubeDePuntos(L"river bank.xyz")});
-
-        dialogo.listBox(IDC_TRIANGULACION_3D_DISCO_HOJAS).choose({1});
-        dialogo.press(IDC_TRIANGULACION_3D_DISCO_RESTAR);
-        dialogo.type(IDC_TRIANGULACION_3D_DISCO_VALOR, L"12.5");
-        dialogo.check(IDC_TRIANGULACION_3D_DISCO_OPCION_2);
-        visita.Fotografia(dialogo.handle(),
-                          L"Three files were added, a fourth was dropped, one removed.");
-        dialogo.press(IDOK);
-    });
-    RespondePregunta(visita, {L"sheet-0412.xyz", L"sheet-0413.xyz", L"sheet-0414.xyz"});
-}
+extern const Conversacion conversacionTriangulacion3DDisco = {
+    .subsistema = L"Triangulation",
+    .titulo = L"Several files",
+    .raiz = L"Triangulacion3DDiscoDlg",
+    .abre =
+        [](Terreno& terreno, CWnd* padre) {
+            DatosTriangulacion3DDisco& datos = terreno.triangulacion3DDisco;
+            return Cotana::CTriangulacion3DDiscoDlg(datos.ficheros, nullptr, datos.valor,
+                                                    datos.opcion, padre)
+                .DoModal();
+        },
+    .ficha = [](const Terreno& terreno) -> Ficha {
+        const DatosTriangulacion3DDisco& datos = terreno.triangulacion3DDisco;
+        return {
+            {L"ficheros", Valor(datos.ficheros)},
+            {L"valor", Valor(datos.valor)},
+            {L"opcion", Valor(datos.opcion)},
+        };
+    },
+};

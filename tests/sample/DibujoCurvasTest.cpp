@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "DrawingsFolder.h"
+
 namespace {
 
 constexpr int Columnas = 21;
@@ -60,13 +62,7 @@ class DibujoCurvas : public testing::Test {
 protected:
     DibujoCurvas() {
         terreno.modelo = Plano();
-        wchar_t carpeta[MAX_PATH];
-        GetTempPathW(MAX_PATH, carpeta);
-        wchar_t nombre[MAX_PATH];
-        GetTempFileNameW(carpeta, L"cur", 0, nombre);
-        DeleteFileW(nombre);
-        CreateDirectoryW(nombre, nullptr);
-        terreno.carpetaDibujos = nombre;
+        terreno.carpetaDibujos = carpeta.Name();
         Cotana::CDataCurvado& data = terreno.curvado;
         data.m_Escala = 5000; // the plane is 40 mm by 20 mm on paper
         data.m_Equidistancia = 2;
@@ -79,13 +75,8 @@ protected:
         data.m_CodigoCurvas4 = L"CNMD";
         data.m_CodigoCurvas5 = L"CNT";
     }
-    ~DibujoCurvas() override {
-        DeleteFileW(Ruta(L"contours.dxf"));
-        DeleteFileW(Ruta(L"contours.svg"));
-        RemoveDirectoryW(terreno.carpetaDibujos);
-    }
 
-    CString Ruta(const wchar_t* nombre) const { return terreno.carpetaDibujos + L"\\" + nombre; }
+    CString Ruta(const wchar_t* nombre) const { return carpeta.File(nombre); }
 
     /// The elevations of the contours that are in the drawing, the lowest first.
     std::vector<double> Dibuja() {
@@ -130,6 +121,7 @@ protected:
         terreno.curvado.m_OpcionTexto = soloMaestras;
     }
 
+    const DrawingsFolder carpeta;
     Terreno terreno;
 };
 
@@ -251,10 +243,8 @@ TEST_F(DibujoCurvas, HalfADrawingIsSaid) {
 }
 
 TEST_F(DibujoCurvas, FolderThatIsGoneIsSaid) {
-    const CString carpeta = terreno.carpetaDibujos;
     terreno.carpetaDibujos += L"\\gone";
     const Hecho hecho = DibujaCurvas(terreno);
     EXPECT_TRUE(hecho.fallo);
     EXPECT_NE(hecho.texto.Find(L"contours.dxf: "), -1) << hecho.texto.GetString();
-    terreno.carpetaDibujos = carpeta;
 }

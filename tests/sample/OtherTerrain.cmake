@@ -1,6 +1,6 @@
 # A tour of a terrain of one's own, below the sea: its elevations reach the dialog, its contours the
 # drawings, and these the page.
-#   cmake -D EMULATOR=... -D PROGRAM=... -D WORK=... -P OtherTerrain.cmake
+#   cmake -D EMULATOR=... -D TOUR=... -D WORK=... -P OtherTerrain.cmake
 set(row "")
 foreach(column RANGE 20)
   math(EXPR elevation "-60 + 3 * ${column}")
@@ -11,7 +11,7 @@ file(WRITE ${WORK}/slope.asc
      "ncols 21\nnrows 11\nxllcorner 437200\nyllcorner 4486300\ncellsize 10\n${rows}")
 file(REMOVE_RECURSE ${WORK}/tour-slope ${WORK}/drawings)
 execute_process(
-  COMMAND ${EMULATOR} ${PROGRAM} --tour tour-slope --grid slope.asc --drawings drawings
+  COMMAND ${EMULATOR} ${TOUR} tour-slope --grid slope.asc --drawings drawings
   WORKING_DIRECTORY ${WORK}
   RESULT_VARIABLE result
   OUTPUT_VARIABLE output

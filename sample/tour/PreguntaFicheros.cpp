@@ -1,4 +1,4 @@
-#include "sample/conversaciones/PreguntaFicheros.h"
+#include "sample/tour/PreguntaFicheros.h"
 
 #include "sample/Rutas.h"
 

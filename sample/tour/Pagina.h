@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "sample/Ficha.h"
-#include "sample/Visita.h"
+#include "sample/tour/Visita.h"
 
 /// What the tour saw at one stop.
 struct Parada {

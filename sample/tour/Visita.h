@@ -1,7 +1,8 @@
 #pragma once
 
-#include <afx.h>
+#include <afxwin.h>
 
+#include <functional>
 #include <vector>
 
 #include "kit/driver.h"
@@ -19,8 +20,11 @@ public:
     Visita(const CString& carpeta, const CString& raiz);
 
     kit::Script& Guion() { return m_Guion; }
-    /// Takes a picture of an open window.
+    /// Takes a picture of an open window. A step of the script ends here when it cannot be written.
     void Fotografia(HWND ventana, const CString& pie);
+    /// Opens the conversation and drives it to its end. Throws a Fault when a picture could not be
+    /// written.
+    INT_PTR Corre(const std::function<INT_PTR()>& abre);
     const std::vector<Foto>& Fotos() const { return m_Fotos; }
 
 private:
@@ -28,4 +32,5 @@ private:
     CString m_Raiz;
     kit::Script m_Guion;
     std::vector<Foto> m_Fotos;
+    CString m_SinEscribir; ///< The picture that could not be written.
 };

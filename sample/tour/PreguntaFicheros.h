@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "sample/Visita.h"
+#include "sample/tour/Visita.h"
 
 /// The full path of one of the sample's point clouds.
 std::wstring NubeDePuntos(const std::wstring& nombre);

@@ -1,12 +1,16 @@
-#include "sample/Recorrido.h"
+#include "sample/tour/Recorrido.h"
 
-#include <afxcmn.h>
+#include <set>
+#include <string>
+#include <string_view>
 
 #include "sample/Conversacion.h"
 #include "sample/EjemploIds.h"
 #include "sample/LanzadorDlg.h"
-#include "sample/Pagina.h"
 #include "sample/Rutas.h"
+#include "sample/TextFile.h"
+#include "sample/tour/Guion.h"
+#include "sample/tour/Pagina.h"
 
 namespace {
 
@@ -29,48 +33,32 @@ void PreparaKit() {
         [](MSG& mensaje) { return AfxGetApp()->PreTranslateMessage(&mensaje) != FALSE; });
 }
 
-/// Chooses a conversation in the launcher's tree.
-void Elige(const kit::Dialog& lanzador, const wchar_t* subsistema, const wchar_t* titulo) {
-    auto& arbol =
-        *static_cast<CTreeCtrl*>(CWnd::FromHandle(lanzador.control(IDC_LANZADOR_CONVERSACIONES)));
-    const auto busca = [&arbol](HTREEITEM primero, const wchar_t* texto) {
-        HTREEITEM item = primero;
-        while (item && arbol.GetItemText(item) != texto)
-            item = arbol.GetNextSiblingItem(item);
-        return item;
-    };
-    const HTREEITEM raiz = busca(arbol.GetRootItem(), subsistema);
-    arbol.SelectItem(raiz ? busca(arbol.GetChildItem(raiz), titulo) : nullptr);
-}
-
-/// The host's own window, and the contours opened from it: cancelled, nothing is done; accepted,
-/// they are drawn.
+/// The host's own window, and a conversation opened from it, cancelled and then accepted.
 Parada VisitaLanzador(Terreno& terreno, const CString& carpeta) {
     Visita visita(carpeta, L"Lanzador");
     visita.Guion().onDialog([&visita](kit::Dialog& dialogo) {
         visita.Fotografia(dialogo.handle(),
                           L"The sample host: the conversations, and the record of the chosen one.");
-        Elige(dialogo, L"Contours and slopes", L"Contour options");
-        dialogo.press(IDC_LANZADOR_ABRIR); // and cancelled
-        if (dialogo.text(IDC_LANZADOR_RESULTADO) != L"Cancelled.")
-            kit::fail("the launcher does not say that nothing was done");
-        dialogo.press(IDC_LANZADOR_ABRIR);
-        if (dialogo.text(IDC_LANZADOR_RESULTADO).find(L" drawn") == std::wstring::npos)
-            kit::fail("the launcher does not say what was drawn");
-        visita.Fotografia(dialogo.handle(), L"The contour options were accepted as they were.");
+        for (const wchar_t* resultado : {L"Cancelled.", L"Accepted."}) {
+            dialogo.press(IDC_LANZADOR_ABRIR);
+            if (dialogo.text(IDC_LANZADOR_RESULTADO) != resultado)
+                kit::fail("the launcher does not say: " + kit::utf8(resultado));
+        }
+        visita.Fotografia(dialogo.handle(), L"The conversation was accepted as it was.");
         dialogo.press(IDCANCEL);
     });
     for (const int boton : {IDCANCEL, IDOK})
         visita.Guion().onDialog([boton](kit::Dialog& dialogo) { dialogo.press(boton); });
     CLanzadorDlg lanzador(terreno);
-    visita.Guion().run([&lanzador] { return lanzador.DoModal(); });
+    visita.Corre([&lanzador] { return lanzador.DoModal(); });
     Parada parada;
     parada.titulo = L"The sample host";
     parada.fotos = visita.Fotos();
     return parada;
 }
 
-Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Terreno& terreno,
+/// Throws a Fault when a picture cannot be written, or the host's command fails.
+Parada VisitaConversacion(const Conversacion& conversacion, CRecorridoApp& app, Terreno& terreno,
                           const CString& carpeta) {
     conversacion.prepara(terreno);
     Parada parada;
@@ -78,16 +66,15 @@ Parada VisitaConversacion(const Conversacion& conversacion, CEjemploApp& app, Te
     parada.titulo = conversacion.titulo;
     parada.antes = conversacion.ficha(terreno);
     Visita visita(carpeta, conversacion.raiz);
-    conversacion.conduce(visita);
-    const INT_PTR resultado =
-        visita.Guion().run([&] { return conversacion.abre(terreno, nullptr); });
+    Guiones().at(conversacion.raiz)(visita);
+    const INT_PTR resultado = visita.Corre([&] { return conversacion.abre(terreno, nullptr); });
     if (resultado != IDOK)
         kit::fail("the conversation was not accepted");
     parada.despues = conversacion.ficha(terreno);
     if (resultado == IDOK && conversacion.ejecuta) {
         const Hecho hecho = conversacion.ejecuta(terreno);
         if (hecho.fallo)
-            kit::fail(Utf8(hecho.texto));
+            throw Fault{hecho.texto.GetString()};
         parada.hecho = hecho.texto;
         conversacion.prepara(terreno);
         if (conversacion.ficha(terreno) != parada.despues)
@@ -111,26 +98,47 @@ void Imprime(const Parada& parada) {
         Escribe(L"    " + parada.hecho + L"\n");
 }
 
-} // namespace
-
-bool Recorre(CEjemploApp& app, Terreno& terreno, const CString& carpeta) {
-    CString completa;
-    const CString error = HazCarpeta(carpeta, completa);
-    if (!error.IsEmpty()) {
-        Escribe(error + L"\n", true);
-        return false;
+/// Each conversation has its script, and each script its conversation.
+void CompruebaGuiones() {
+    std::set<std::wstring_view> raices;
+    for (const Conversacion* conversacion : Conversaciones())
+        raices.insert(conversacion->raiz);
+    for (const auto& [raiz, conduce] : Guiones()) {
+        if (raices.erase(raiz) == 0)
+            throw Fault{L"no conversation has the stem of the script " + std::wstring(raiz)};
     }
+    if (!raices.empty())
+        throw Fault{L"there is no script of " + std::wstring(*raices.begin())};
+}
 
+/// Throws a Fault when the tour cannot go on.
+void RecorreTodas(CRecorridoApp& app, Terreno& terreno, const CString& carpeta) {
+    CompruebaGuiones();
     PreparaKit();
-    std::vector<Parada> paradas = {VisitaLanzador(terreno, completa)};
-    for (const Conversacion& conversacion : Conversaciones()) {
-        paradas.push_back(VisitaConversacion(conversacion, app, terreno, completa));
+    std::vector<Parada> paradas;
+    for (const Conversacion* conversacion : Conversaciones()) {
+        paradas.push_back(VisitaConversacion(*conversacion, app, terreno, carpeta));
         Imprime(paradas.back());
     }
-    const CString fallo = EscribePagina(paradas, completa);
-    if (!fallo.IsEmpty()) {
-        Escribe(fallo + L"\n", true);
-        return false;
+    // Last, since it changes a record, and first on the page.
+    paradas.insert(paradas.begin(), VisitaLanzador(terreno, carpeta));
+    const CString error = EscribePagina(paradas, carpeta);
+    if (!error.IsEmpty())
+        throw Fault{error.GetString()};
+}
+
+} // namespace
+
+bool Recorre(CRecorridoApp& app, Terreno& terreno, const CString& carpeta) {
+    CString completa;
+    CString error = HazCarpeta(carpeta, completa);
+    try {
+        if (error.IsEmpty())
+            RecorreTodas(app, terreno, completa);
+    } catch (const Fault& fallo) {
+        error = fallo.text.c_str();
     }
-    return fallos == 0;
+    if (!error.IsEmpty())
+        Escribe(error + L"\n", true);
+    return error.IsEmpty() && fallos == 0;
 }

@@ -1,4 +1,4 @@
-#include "sample/Pagina.h"
+#include "sample/tour/Pagina.h"
 
 #include <string>
 #include <string_view>

@@ -1,0 +1,3 @@
+#include "sample/EjemploApp.h"
+
+static CEjemploApp ejemplo;

@@ -1,7 +1,8 @@
-// The host and the dialogs of contours and slopes share their records: both count on the order of
-// the fields.
+// The host and the dialogs of its terrain model share their records: both count on the order of the
+// fields.
 #include <cotana/modelo/DataCambiosPendiente.h>
 #include <cotana/modelo/DataCurvado.h>
+#include <cotana/modelo/DataProyectaDEM.h>
 #include <cotana/modelo/DataVectoresPendiente.h>
 
 #include "kit/kit.h"
@@ -14,10 +15,12 @@ namespace {
 
 using Cotana::CDataCambiosPendiente;
 using Cotana::CDataCurvado;
+using Cotana::CDataProyectaDEM;
 using Cotana::CDataVectoresPendiente;
 
 static_assert(!std::is_polymorphic_v<CDataCambiosPendiente>);
 static_assert(!std::is_polymorphic_v<CDataCurvado>);
+static_assert(!std::is_polymorphic_v<CDataProyectaDEM>);
 static_assert(!std::is_polymorphic_v<CDataVectoresPendiente>);
 
 /// These fields are of type `Tipo`.
@@ -34,7 +37,8 @@ static_assert(
         decltype(CDataCurvado::m_Opcion1), decltype(CDataCurvado::m_RespetarCurvas),
         decltype(CDataCurvado::m_RangoCota), decltype(CDataCurvado::m_OpcionTexto),
         decltype(CDataCurvado::m_TextoEntero), decltype(CDataCurvado::m_NivelSuavizado),
-        decltype(CDataCurvado::m_TipoSuavizado)>);
+        decltype(CDataCurvado::m_TipoSuavizado), decltype(CDataProyectaDEM::m_Informe),
+        decltype(CDataProyectaDEM::m_Opcion), decltype(CDataProyectaDEM::m_Tipo)>);
 static_assert(Son<unsigned int, decltype(CDataCurvado::m_Escala)>);
 static_assert(
     Son<double, decltype(CDataVectoresPendiente::m_ValorVector1),
@@ -44,7 +48,7 @@ static_assert(
         decltype(CDataCurvado::m_ValorAvanzado2), decltype(CDataCurvado::m_TextoValor1),
         decltype(CDataCurvado::m_Equidistancia), decltype(CDataCurvado::m_EquidistanciaMaestra),
         decltype(CDataCurvado::m_TextoValor2), decltype(CDataCurvado::m_CotaMinima),
-        decltype(CDataCurvado::m_CotaMaxima)>);
+        decltype(CDataCurvado::m_CotaMaxima), decltype(CDataProyectaDEM::m_Valor)>);
 
 /// The record begins with the first of these fields, and each lies behind the one before it.
 void CompruebaOrden(const void* registro, const std::vector<const void*>& campos) {
@@ -97,4 +101,10 @@ TEST(DataCurvado, FieldsFollowEachOtherInTheirOrder) {
                         &d.m_TextoEntero,
                         &d.m_NivelSuavizado,
                         &d.m_TipoSuavizado});
+}
+
+TEST(DataProyectaDEM, FieldsFollowEachOtherInTheirOrder) {
+    const CDataProyectaDEM d;
+    CompruebaOrden(&d, {&d.m_Informe, &d.m_Opcion, &d.m_Valor, &d.m_Tipo, &d.m_FicheroProyeccion,
+                        &d.m_FicheroInforme});
 }

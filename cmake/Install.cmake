@@ -35,6 +35,7 @@ install(
   FILES_MATCHING
   PATTERN "Cuadros.h"
   PATTERN "Exporta.h"
+  PATTERN "Data*.h"
   PATTERN "*Dlg.h"
   PATTERN "*Ids.h"
   PATTERN "icons" EXCLUDE

@@ -1,4 +1,4 @@
-// All dialogs of the library.
+// All dialogs and records of the library.
 #pragma once
 
 #include "cuadros/contours/CambiosPendienteTINDlg.h"
@@ -6,6 +6,8 @@
 #include "cuadros/contours/CurvadoDlg.h"
 #include "cuadros/contours/CurvadoTriangulacionDlg.h"
 #include "cuadros/contours/VectoresPendienteDlg.h"
+#include "cuadros/import/DataImportarGTOPO30.h"
+#include "cuadros/import/DataImportarGrid.h"
 #include "cuadros/triangulation/GenerarCasesDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveDlg.h"
 #include "cuadros/triangulation/LimpiarRelieveRangoZDlg.h"

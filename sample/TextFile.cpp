@@ -119,6 +119,13 @@ size_t InputFile::Read(char* bytes, size_t size) {
     return read;
 }
 
+long long InputFile::Size() const {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(m_Handle, &size))
+        throw Fault{L"the file cannot be read"};
+    return size.QuadPart;
+}
+
 CString ReadTextFile(const CString& file, const TextFormat& format, const TakeLine& take) {
     try {
         return ParseTextFile(file, Bytes(file, format), format, take);

@@ -35,6 +35,9 @@ public:
     /// @return how many were read: fewer than `size` at the end of the file, then none.
     size_t Read(char* bytes, size_t size);
 
+    /// How many bytes it has; throws a Fault when Windows does not know.
+    long long Size() const;
+
 private:
     void* m_Handle;
 };

@@ -2,9 +2,11 @@
 
 #include <afx.h>
 
+#include <memory>
 #include <string_view>
 
 #include "sample/terrain/ElevationGrid.h"
+#include "sample/terrain/GridSource.h"
 
 /// Reads an elevation grid out of an ESRI ASCII grid file (its format:
 /// docs/elevation-grid-format.md). The file is read block by block: however long it is, only the
@@ -18,3 +20,10 @@ CString ReadAscGridFile(const CString& file, ElevationGrid& grid);
 
 /// The same out of the bytes of a file; `file` is its name for the messages.
 CString ParseAscGrid(const CString& file, std::string_view bytes, ElevationGrid& grid);
+
+/// Opens an ESRI ASCII grid file to read its elevations one by one; its header is read at once.
+/// Throws a RefusedFile.
+std::unique_ptr<GridSource> OpenAscGrid(const CString& file);
+
+/// The same of the bytes of a file, which outlive the source.
+std::unique_ptr<GridSource> OpenAscGrid(const CString& file, std::string_view bytes);

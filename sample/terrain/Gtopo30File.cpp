@@ -202,8 +202,8 @@ private:
         } catch (const Fault& fault) {
             Refuse(fault.text);
         }
-        if (m_Size == 0)
-            Refuse(L"the file became shorter while it was read");
+        if (m_Size == 0) // it had another length when it was opened
+            Refuse(L"the file cannot be read");
         m_Next = 0;
     }
 

@@ -17,7 +17,6 @@ struct Side {
     double low;
     double high;
     double spacing;
-    int nodes;
 };
 
 TakenNodes Taken(const Side& side, double low, double high, int ratio) {
@@ -27,13 +26,10 @@ TakenNodes Taken(const Side& side, double low, double high, int ratio) {
     const double steps = (high - low) / (static_cast<double>(step) * side.spacing);
     if (step == 0 || !(steps >= 1))
         return {};
-    TakenNodes taken{0, step, static_cast<int>(steps)};
-    // A node lies half a spacing behind the beginning of its cell.
+    // A node lies half a spacing behind the beginning of its cell. The last one that is taken is as
+    // far from the end of the file at least, which is room enough for any rounding.
     const double first = std::ceil((low - side.low) / side.spacing - 0.5);
-    // Rounding may put the first one behind the last place from which all are in the file.
-    const long long last = side.nodes - 1 - (taken.count - 1) * step;
-    taken.first = static_cast<int>(std::clamp(first, 0.0, static_cast<double>(last)));
-    return taken;
+    return {static_cast<int>(first), step, static_cast<int>(steps)};
 }
 
 /// A number with as many digits as tell it from every other.
@@ -88,13 +84,13 @@ void Write(OutputFile& output, GridSource& source, const TakenNodes& columns,
 } // namespace
 
 TakenNodes TakenColumns(const GridFrame& frame, const GridWindow& window) {
-    return Taken({frame.West(), frame.East(), frame.xSpacing, frame.columns}, window.low.x,
-                 window.high.x, window.ratio);
+    return Taken({frame.West(), frame.East(), frame.xSpacing}, window.low.x, window.high.x,
+                 window.ratio);
 }
 
 TakenNodes TakenRows(const GridFrame& frame, const GridWindow& window) {
-    return Taken({frame.South(), frame.North(), frame.ySpacing, frame.rows}, window.low.y,
-                 window.high.y, window.ratio);
+    return Taken({frame.South(), frame.North(), frame.ySpacing}, window.low.y, window.high.y,
+                 window.ratio);
 }
 
 CString WriteGridWindow(const CString& file, GridSource& source, const GridWindow& window) {

@@ -31,7 +31,7 @@ constexpr HeaderKey Keys[] = {{"ncols", Columns},     {"nrows", Rows},         {
                               {"xllcenter", West},    {"yllcorner", South},    {"yllcenter", South},
                               {"cellsize", CellSize}, {"nodata_value", NoData}};
 
-/// What the refusals call it; of NODATA_value there is a default.
+/// The keys that a header must have, as the refusals call them; NODATA_value has a default.
 constexpr const wchar_t* Needed[] = {L"ncols", L"nrows", L"xllcorner or xllcenter",
                                      L"yllcorner or yllcenter", L"cellsize"};
 

@@ -85,7 +85,7 @@ std::optional<double> Number(std::string_view word) {
     if (last != end || error == std::errc::invalid_argument)
         return {};
     if (error == std::errc::result_out_of_range) {
-        // It is not told whether too large or too small; only a power of ten makes a word either.
+        // Too large or too small: from_chars does not say which, but the sign of the exponent does.
         const bool small = word.find("e-") != word.npos || word.find("E-") != word.npos;
         return small ? 0 : HUGE_VAL;
     }

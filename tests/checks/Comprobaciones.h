@@ -21,18 +21,6 @@ inline CString TextoDe(UINT numero) {
     return texto;
 }
 
-/// The dialog has this group icon as its small one, and no big one.
-inline void CompruebaIcono(const kit::Dialog& dialogo, UINT numero) {
-    const auto nombre = MAKEINTRESOURCEW(numero);
-    const HICON propio = LoadIconW(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
-    ASSERT_NE(propio, nullptr);
-    const auto icono = [&](WPARAM cual) {
-        return reinterpret_cast<HICON>(SendMessageW(dialogo.handle(), WM_GETICON, cual, 0));
-    };
-    EXPECT_EQ(icono(ICON_SMALL), propio);
-    EXPECT_EQ(icono(ICON_BIG), nullptr);
-}
-
 /// From this dialog the host was asked once for files that exist: with the name `antes`, with these
 /// options, over the dialog's own member that keeps the host's template.
 ///
@@ -81,15 +69,6 @@ inline std::vector<int> LeidosPorOk(kit::Dialog& dialogo, const std::vector<int>
                               });
     dialogo.press(IDOK);
     return leidos;
-}
-
-/// A conversation that, repeated, leaves no handle behind.
-inline void CompruebaQueNadaQueda(const std::function<void()>& conversacion) {
-    conversacion();
-    const auto antes = kit::Handles::now();
-    for (int i = 0; i < 5; ++i)
-        conversacion();
-    EXPECT_EQ(kit::Handles::now(), antes);
 }
 
 /// The exchanges of a dialog of class `Dlg`, as a class derived from it sees them: S for one that
@@ -152,71 +131,7 @@ protected:
     }
 };
 
-/// A dialog of class `Dlg` with a help of the host's own.
-template <class Dlg>
-class ConAyudaPropia : public Dlg {
-public:
-    using Dlg::Dlg;
-
-    void OnHelp() override { ++veces; }
-
-    int veces = 0;
-};
-
 /// The request that asks for the page with this context of the host's help file.
 inline std::vector<kit::HelpRequest> PaginaDeAyuda(DWORD_PTR contexto) {
     return {{contexto, 15}};
-}
-
-/// F1 on each of these controls, and the Help button, open this page of the host's help file.
-inline void CompruebaAyuda(kit::Dialog& dialogo, const std::vector<int>& controles,
-                           DWORD_PTR contexto) {
-    for (const int control : controles) {
-        dialogo.focusOn(control);
-        dialogo.help();
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(contexto)) << "on " << control;
-    }
-    dialogo.press(ID_HELP);
-    EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(contexto));
-}
-
-/// The help of a class derived from `Dlg` is the one that opens.
-template <class Dlg, class... Argumentos>
-void CompruebaAyudaDerivada(Argumentos&&... argumentos) {
-    ConAyudaPropia<Dlg> derivado(std::forward<Argumentos>(argumentos)...);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
-        dialogo.help();
-        EXPECT_EQ(derivado.veces, 1);
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(derivado.veces, 2);
-        EXPECT_TRUE(derivado.OnHelpInfo(nullptr));
-        EXPECT_EQ(derivado.veces, 3);
-        dialogo.press(IDCANCEL);
-    });
-    guion.run([&] { return derivado.DoModal(); });
-    EXPECT_TRUE(kit::app.takeHelpRequests().empty());
-}
-
-/// A dialog's class has information of its own, directly over `CDialog`.
-inline void CompruebaClase(const CObject& dialogo, const CRuntimeClass* clase, const char* nombre) {
-    EXPECT_EQ(dialogo.GetRuntimeClass(), clase);
-    EXPECT_STREQ(clase->m_lpszClassName, nombre);
-    EXPECT_EQ(clase->m_pfnGetBaseClass(), RUNTIME_CLASS(CDialog));
-}
-
-/// The help of `Dlg` exchanges nothing: a bad number is not refused by it.
-template <class Dlg, class... Argumentos>
-void CompruebaAyudaSinIntercambio(Argumentos&&... argumentos) {
-    ConIntercambios<Dlg> contador(std::forward<Argumentos>(argumentos)...);
-    kit::Script guion;
-    guion.onDialog([&](kit::Dialog& dialogo) {
-        contador.Intercambios();
-        dialogo.help();
-        dialogo.press(ID_HELP);
-        EXPECT_EQ(contador.Intercambios(), "");
-        dialogo.press(IDCANCEL);
-    });
-    guion.run([&] { return contador.DoModal(); });
-    EXPECT_EQ(kit::app.takeHelpRequests().size(), 2U);
 }

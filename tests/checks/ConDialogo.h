@@ -15,8 +15,6 @@
 #include <utility>
 #include <vector>
 
-static_assert(ID_HELP == 57670);
-
 /// The text that is the title of the dialogs' messages.
 constexpr UINT TituloMensajes = 15105;
 
@@ -73,36 +71,6 @@ protected:
     static INT_PTR Abre(CDialog& dialogo, const Paso& paso,
                         kit::Where donde = kit::Where::current()) {
         return Abre(dialogo, {}, paso, donde);
-    }
-
-    /// The dialog opens in the middle of the owner that it is given.
-    void CompruebaQueSeCentra() {
-        const HWND ventana =
-            CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 40, 900,
-                            600, nullptr, nullptr, nullptr, nullptr);
-        const auto seCentra = [&](kit::Dialog& dialogo) {
-            EXPECT_EQ(dialogo.owner(), ventana);
-            RECT duena{};
-            GetWindowRect(ventana, &duena);
-            const RECT marco = dialogo.rect();
-            EXPECT_NEAR(marco.left + marco.right, duena.left + duena.right, 1);
-            EXPECT_NEAR(marco.top + marco.bottom, duena.top + duena.bottom, 1);
-            dialogo.press(IDCANCEL);
-        };
-        Conduce([&] { return Ejecuta(CWnd::FromHandle(ventana)); }, {}, seCentra,
-                kit::Where::current());
-        DestroyWindow(ventana);
-    }
-
-    /// Enter is OK; Escape and the caption's close box are Cancel.
-    void CompruebaSalidas() {
-        const auto acepta = [](kit::Dialog& dialogo) {
-            EXPECT_EQ(dialogo.defaultButton(), IDOK);
-            kit::keyboard::press(VK_RETURN);
-        };
-        EXPECT_EQ(Abre(acepta), IDOK);
-        EXPECT_EQ(Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-        EXPECT_EQ(Abre([](kit::Dialog& dialogo) { dialogo.close(); }), IDCANCEL);
     }
 
 private:

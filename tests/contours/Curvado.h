@@ -6,7 +6,6 @@
 
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 
 #include <tuple>
@@ -42,48 +41,6 @@ constexpr int Opcion1 = IDC_CURVADO_OPCION_1;
 constexpr int RespetarCurvas = IDC_CURVADO_RESPETAR_CURVAS;
 constexpr int CurvasARespetar1 = IDC_CURVADO_CURVAS_A_RESPETAR_1;
 constexpr int CurvasARespetar2 = IDC_CURVADO_CURVAS_A_RESPETAR_2;
-
-// Hosts, their help and the language file know these numbers.
-static_assert(IDD_CURVADO == 20093);
-static_assert(IDI_CURVADO == 20093);
-static_assert(Escala == 20087);
-static_assert(Equidistancia == 20081);
-static_assert(EquidistanciaMaestra == 20082);
-static_assert(Avanzado == 18587);
-static_assert(Codigos == 20042);
-static_assert(TextoCurvas == 20088);
-static_assert(TextoValor1 == 20090);
-static_assert(TextoValor2 == 20089);
-static_assert(TextoEntero == 20092);
-static_assert(OpcionTexto == 20217);
-static_assert(RangoCota == 20216);
-static_assert(CotaMinima == 20091);
-static_assert(CotaMaxima == 20093);
-static_assert(CotaMinimaModelo == 20075);
-static_assert(CotaMaximaModelo == 20074);
-static_assert(Limite == 20073);
-static_assert(FicheroLimite == 20086);
-static_assert(Buscar == 20085);
-static_assert(TipoSuavizado == 20210);
-static_assert(NivelSuavizado == 20206);
-static_assert(NivelFlechas == 1024);
-static_assert(OpcionSuavizado == 18285);
-static_assert(Opcion1 == 20212);
-static_assert(RespetarCurvas == 20213);
-static_assert(CurvasARespetar1 == 20083);
-static_assert(CurvasARespetar2 == 20084);
-static_assert(IDC_CURVADO_GRUPO_SUAVIZADO == 20024);
-static_assert(IDC_CURVADO_ROTULO_TIPO_SUAVIZADO == 20208);
-static_assert(IDC_CURVADO_ROTULO_NIVEL == 20209);
-static_assert(IDC_CURVADO_ROTULO_RESPETAR_1 == 20214);
-static_assert(IDC_CURVADO_ROTULO_RESPETAR_2 == 20215);
-static_assert(IDS_ESCALA_NO_POSITIVA == 19078);
-static_assert(IDS_VALOR_TEXTO_NO_POSITIVO == 15037);
-static_assert(IDS_VALOR_NO_POSITIVO == 19076);
-static_assert(IDS_SEGUNDO_VALOR_NO_POSITIVO == 20008);
-static_assert(IDS_FICHERO_LIMITE_OBLIGATORIO == 20004);
-static_assert(IDS_NIVEL_SUAVIZADO_FUERA == 20024);
-static_assert(IDS_RANGO_COTAS_FUERA == 20029);
 
 /// What a host may hide, in the order in which it is shown or hidden.
 const std::vector<int> Ocultables = {20024,

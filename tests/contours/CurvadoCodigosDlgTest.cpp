@@ -5,7 +5,6 @@
 
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
-#include "cuadros/resources/IconIds.h"
 
 #include <array>
 #include <cstddef>
@@ -18,11 +17,6 @@ constexpr std::array Codigos = {IDC_CURVADO_CODIGOS_CODIGO_1, IDC_CURVADO_CODIGO
 constexpr std::array Numeros = {IDC_CURVADO_CODIGOS_NUMERO_1, IDC_CURVADO_CODIGOS_NUMERO_2,
                                 IDC_CURVADO_CODIGOS_NUMERO_3, IDC_CURVADO_CODIGOS_NUMERO_4,
                                 IDC_CURVADO_CODIGOS_NUMERO_5};
-
-static_assert(IDD_CURVADO_CODIGOS == 20002);
-static_assert(Codigos == std::array{20083, 20084, 20036, 20037, 20038});
-static_assert(Numeros == std::array{20039, 20040, 20041, 20043, 20044});
-static_assert(IDI_CURVADO == 20093);
 
 using Textos = std::array<CString, 5>;
 
@@ -76,17 +70,6 @@ TEST_F(CurvadoCodigosDlg, OpensByOneExchangeAndThenHidesTheNumbersInTheirOrder) 
     Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon", "hide 20039", "hide 20040",
                                         "hide 20041", "hide 20043", "hide 20044"}));
-}
-
-TEST_F(CurvadoCodigosDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(CurvadoCodigosDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_CURVADO);
-        dialogo.press(IDCANCEL);
-    });
 }
 
 // OK and Cancel.
@@ -158,53 +141,6 @@ TEST_F(CurvadoCodigosDlg, CancelLeavesAllFive) {
     EXPECT_EQ(codigos, antes);
 }
 
-// By keyboard alone.
-
-TEST_F(CurvadoCodigosDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{Codigos[0], Codigos[1], Codigos[2], Codigos[3], Codigos[4],
-                                    IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoCodigosDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        const std::wstring letras = L"cmdel";
-        for (std::size_t i = letras.size(); i-- > 0;) {
-            kit::keyboard::mnemonic(letras[i]);
-            EXPECT_EQ(dialogo.focus(), Codigos[i]);
-        }
-        kit::keyboard::mnemonic(L'h');
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151074));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoCodigosDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
-// Help.
-
-TEST_F(CurvadoCodigosDlg, F1AndTheHelpButtonOpenItsPage) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaAyuda(dialogo, {Codigos[0], Codigos[4]}, 151074);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoCodigosDlg, HelpExchangesNothing) {
-    CompruebaAyudaSinIntercambio<CCurvadoCodigosDlg>(codigos[0], codigos[1], codigos[2], codigos[3],
-                                                     codigos[4]);
-}
-
-TEST_F(CurvadoCodigosDlg, HelpOfADerivedClassIsTheOneThatOpens) {
-    CompruebaAyudaDerivada<CCurvadoCodigosDlg>(codigos[0], codigos[1], codigos[2], codigos[3],
-                                               codigos[4]);
-}
-
 // A host's own class on top of the dialog.
 
 TEST_F(CurvadoCodigosDlg, HostSeesOneExchangeAtOpeningAndOneByOk) {
@@ -254,15 +190,6 @@ TEST_F(CurvadoCodigosDlg, OkStaysOpenWhereTheHostRefusesTheExchange) {
                        dialogo.press(IDCANCEL);
                    }),
               IDCANCEL);
-}
-
-TEST_F(CurvadoCodigosDlg, HasClassInformationOfItsOwn) {
-    EXPECT_EQ(CCurvadoCodigosDlg::GetThisClass(), RUNTIME_CLASS(CCurvadoCodigosDlg));
-    CompruebaClase(Dialogo(), RUNTIME_CLASS(CCurvadoCodigosDlg), "CCurvadoCodigosDlg");
-}
-
-TEST_F(CurvadoCodigosDlg, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] { Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }); });
 }
 
 } // namespace

@@ -515,10 +515,15 @@ TEST_F(CurvadoDlgAbre, HostOpensThemItself) {
 }
 
 TEST_F(CurvadoDlgAbre, LeaveNothingBehind) {
-    CompruebaQueNadaQueda([this] {
+    const auto unaVez = [this] {
         AbreAvanzado(PulsaAvanzado, [](kit::Dialog& avanzado) { avanzado.press(IDOK); });
         AbreCodigos(PulsaCodigos, [](kit::Dialog& codigos) { codigos.press(IDOK); });
-    });
+    };
+    unaVez();
+    const auto antes = kit::Handles::now();
+    unaVez();
+    unaVez();
+    EXPECT_EQ(kit::Handles::now(), antes);
 }
 
 } // namespace

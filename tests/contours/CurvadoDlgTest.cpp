@@ -4,7 +4,6 @@
 #include "contours/Curvado.h"
 
 #include <algorithm>
-#include <climits>
 #include <optional>
 #include <utility>
 
@@ -87,17 +86,6 @@ TEST_F(CurvadoDlg, EachElevationOfTheModelStandsBesideItsBound) {
         };
         EXPECT_NEAR(altura(CotaMinimaModelo), altura(CotaMinima), 3);
         EXPECT_NEAR(altura(CotaMaximaModelo), altura(CotaMaxima), 3);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(CurvadoDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_CURVADO);
         dialogo.press(IDCANCEL);
     });
 }
@@ -383,50 +371,6 @@ TEST_F(CurvadoDlg, ClicksCountWhateverTheScaleIs) {
          });
 }
 
-TEST_F(CurvadoDlg, ClickTakesNumbersOfAnySizeAndLongTexts) {
-    const std::pair<int, double CDataCurvado::*> reales[] = {
-        {Equidistancia, &CDataCurvado::m_Equidistancia},
-        {EquidistanciaMaestra, &CDataCurvado::m_EquidistanciaMaestra},
-        {TextoValor1, &CDataCurvado::m_TextoValor1},
-        {TextoValor2, &CDataCurvado::m_TextoValor2},
-        {CotaMinima, &CDataCurvado::m_CotaMinima},
-        {CotaMaxima, &CDataCurvado::m_CotaMaxima}};
-    const std::pair<int, int CDataCurvado::*> enteros[] = {
-        {TextoEntero, &CDataCurvado::m_TextoEntero},
-        {NivelSuavizado, &CDataCurvado::m_NivelSuavizado}};
-    const std::pair<int, CString CDataCurvado::*> textos[] = {
-        {CurvasARespetar1, &CDataCurvado::m_CurvasARespetar1},
-        {CurvasARespetar2, &CDataCurvado::m_CurvasARespetar2},
-        {FicheroLimite, &CDataCurvado::m_FicheroLimite}};
-    const struct {
-        const wchar_t* tecleado;
-        double real;
-        int entero;
-        wchar_t letra;
-    } casos[] = {{L"1e300", 1e300, INT_MAX, L'n'}, {L"-1e300", -1e300, INT_MIN, L'm'}};
-    for (const auto& caso : casos)
-        Abre([&](kit::Dialog& dialogo) {
-            const std::wstring largo(400, caso.letra); // far more than an edit shows
-            dialogo.type(Escala, L"4294967295");
-            for (const auto& [control, campo] : reales)
-                dialogo.type(control, caso.tecleado);
-            for (const auto& [control, campo] : enteros)
-                dialogo.type(control, std::to_wstring(caso.entero));
-            for (const auto& [control, campo] : textos)
-                dialogo.type(control, largo);
-            dialogo.click(RangoCota);
-            EXPECT_EQ(data.m_Escala, 4294967295U);
-            for (const auto& [control, campo] : reales)
-                EXPECT_EQ(data.*campo, caso.real) << control;
-            for (const auto& [control, campo] : enteros)
-                EXPECT_EQ(data.*campo, caso.entero) << control;
-            for (const auto& [control, campo] : textos)
-                EXPECT_EQ(data.*campo, largo.c_str()) << control;
-            dialogo.click(RangoCota);
-            dialogo.press(IDCANCEL);
-        });
-}
-
 TEST_F(CurvadoDlg, RefusedNumberThatIsThenDisabledLeavesTheKeyboardAlive) {
     const struct {
         int control;
@@ -699,22 +643,6 @@ TEST_F(CurvadoDlg, ArrowsStepFromTheLevelThatWasTyped) {
 
 // By keyboard alone.
 
-TEST_F(CurvadoDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{Escala,           Equidistancia,    EquidistanciaMaestra,
-                                    Codigos,          Avanzado,         TextoCurvas,
-                                    TextoValor1,      TextoValor2,      TextoEntero,
-                                    OpcionTexto,      RangoCota,        CotaMinima,
-                                    CotaMaxima,       Limite,           FicheroLimite,
-                                    Buscar,           TipoSuavizado,    NivelSuavizado,
-                                    OpcionSuavizado,  Opcion1,          RespetarCurvas,
-                                    CurvasARespetar1, CurvasARespetar2, IDOK,
-                                    IDCANCEL,         ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
 TEST_F(CurvadoDlg, KeyboardPassesWhatIsNotInUse) {
     NadaEnUso();
     Abre([](kit::Dialog& dialogo) {
@@ -733,40 +661,6 @@ TEST_F(CurvadoDlg, KeyboardPassesWhatTheHostHides) {
         EXPECT_EQ(recorrido.size(), 19U);
         for (const int control : Ocultables)
             EXPECT_EQ(std::count(recorrido.begin(), recorrido.end(), control), 0) << control;
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        const std::pair<wchar_t, int> letras[] = {
-            {L'i', Equidistancia},    {L's', Escala},         {L'm', EquidistanciaMaestra},
-            {L'e', TextoValor1},      {L'p', TextoValor2},    {L'd', TextoEntero},
-            {L't', CotaMinima},       {L'g', CotaMaxima},     {L'f', FicheroLimite},
-            {L'y', TipoSuavizado},    {L'v', NivelSuavizado}, {L'n', CurvasARespetar1},
-            {L'u', CurvasARespetar2},
-        };
-        for (const auto& [letra, control] : letras) {
-            kit::keyboard::mnemonic(letra);
-            EXPECT_EQ(dialogo.focus(), control);
-        }
-        const std::pair<wchar_t, int> casillas[] = {
-            {L'l', TextoCurvas},     {L'o', OpcionTexto}, {L'w', RangoCota},      {L'b', Limite},
-            {L'k', OpcionSuavizado}, {L'j', Opcion1},     {L'x', RespetarCurvas},
-        };
-        for (const auto& [letra, control] : casillas) {
-            const bool antes = dialogo.checked(control);
-            kit::keyboard::mnemonic(letra);
-            EXPECT_EQ(dialogo.focus(), control);
-            EXPECT_EQ(dialogo.checked(control), !antes) << control;
-            kit::keyboard::mnemonic(letra);
-            EXPECT_EQ(dialogo.checked(control), antes) << control;
-        }
-        kit::app.cancelFilePrompt();
-        kit::keyboard::mnemonic(L'r');
-        EXPECT_EQ(kit::app.takeFilePrompts().size(), 1U);
-        kit::keyboard::mnemonic(L'h');
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
         dialogo.press(IDCANCEL);
     });
 }
@@ -794,29 +688,6 @@ TEST_F(CurvadoDlg, SpaceChangesACheckBox) {
         EXPECT_EQ(Deshabilitados(dialogo), (Controles{FicheroLimite, Buscar}));
         dialogo.press(IDCANCEL);
     });
-}
-
-TEST_F(CurvadoDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
-// Help.
-
-TEST_F(CurvadoDlg, F1AndTheHelpButtonOpenItsPage) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaAyuda(dialogo, {Escala, TextoCurvas, TipoSuavizado, CotaMaxima, IDOK}, 151165);
-        dialogo.helpOn(20024);
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151165));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoDlg, HelpExchangesNothing) {
-    CompruebaAyudaSinIntercambio<CCurvadoDlg>(data, nullptr, 150.0, 400.0, 1);
-}
-
-TEST_F(CurvadoDlg, HelpOfADerivedClassIsTheOneThatOpens) {
-    CompruebaAyudaDerivada<CCurvadoDlg>(data, nullptr, 150.0, 400.0, 1);
 }
 
 // A host's own class on top of the dialog.
@@ -928,21 +799,6 @@ TEST_F(CurvadoDlg, HandlersFollowTheRecordWhereTheHostChangesIt) {
     });
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(data.m_TipoSuavizado, 1);
-}
-
-TEST_F(CurvadoDlg, HasNoClassInformationOfItsOwn) {
-    EXPECT_EQ(Dialogo().GetRuntimeClass(), RUNTIME_CLASS(CDialog));
-}
-
-TEST_F(CurvadoDlg, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        Abre([](kit::Dialog& dialogo) {
-            dialogo.click(TextoCurvas);
-            dialogo.choose(TipoSuavizado, 1);
-            dialogo.spin(NivelFlechas, 1);
-            dialogo.press(IDCANCEL);
-        });
-    });
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 
 namespace {
@@ -13,13 +12,6 @@ using Cotana::CCurvadoTriangulacionDlg;
 
 constexpr int Equidistancia = IDC_CURVADO_TRIANGULACION_EQUIDISTANCIA;
 constexpr int Cadena = IDC_CURVADO_TRIANGULACION_CADENA;
-
-static_assert(IDD_CURVADO_TRIANGULACION == 14433);
-static_assert(Equidistancia == 19203);
-static_assert(Cadena == 18067);
-static_assert(IDI_TRIANGULACION == 19011);
-static_assert(IDS_VALOR_NO_POSITIVO == 19076);
-static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
 
 class CurvadoTriangulacionDlg : public ConDialogo {
 protected:
@@ -56,17 +48,6 @@ TEST_F(CurvadoTriangulacionDlg, OpensByOneExchange) {
     ConDiario<CCurvadoTriangulacionDlg> conDiario(equidistancia, cadena);
     Abre(conDiario, [](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
     EXPECT_EQ(conDiario.diario, (Diario{"M", "centre", "icon"}));
-}
-
-TEST_F(CurvadoTriangulacionDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(CurvadoTriangulacionDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_TRIANGULACION);
-        dialogo.press(IDCANCEL);
-    });
 }
 
 // OK.
@@ -278,45 +259,6 @@ TEST_F(CurvadoTriangulacionDlg, CancelReadsNothing) {
     EXPECT_EQ(codigo, L"CV");
 }
 
-// By keyboard alone.
-
-TEST_F(CurvadoTriangulacionDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{Equidistancia, Cadena, IDOK, IDCANCEL}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoTriangulacionDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        kit::keyboard::mnemonic(L'c');
-        EXPECT_EQ(dialogo.focus(), Cadena);
-        kit::keyboard::mnemonic(L'i');
-        EXPECT_EQ(dialogo.focus(), Equidistancia);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(CurvadoTriangulacionDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
-// Help.
-
-TEST_F(CurvadoTriangulacionDlg, HasNoHelp) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_FALSE(dialogo.exists(ID_HELP));
-        dialogo.focusOn(Cadena);
-        dialogo.help();
-        dialogo.helpOn(Equidistancia);
-        dialogo.command(ID_HELP);
-        EXPECT_TRUE(IsWindowVisible(dialogo.handle()));
-        EXPECT_TRUE(kit::app.takeHelpRequests().empty());
-        dialogo.press(IDCANCEL);
-    });
-}
-
 // A host's own class on top of the dialog.
 
 TEST_F(CurvadoTriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
@@ -377,22 +319,6 @@ TEST_F(CurvadoTriangulacionDlg, HostCallsTheHandlerItself) {
     });
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(dlg.m_Cadena, L"C");
-}
-
-TEST_F(CurvadoTriangulacionDlg, HasClassInformationOfItsOwn) {
-    EXPECT_EQ(CCurvadoTriangulacionDlg::GetThisClass(), RUNTIME_CLASS(CCurvadoTriangulacionDlg));
-    CompruebaClase(CCurvadoTriangulacionDlg(equidistancia, cadena),
-                   RUNTIME_CLASS(CCurvadoTriangulacionDlg), "CCurvadoTriangulacionDlg");
-}
-
-TEST_F(CurvadoTriangulacionDlg, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        Abre({IDS_TEXTO_OBLIGATORIO}, [](kit::Dialog& dialogo) {
-            dialogo.type(Cadena, L"");
-            dialogo.press(IDOK);
-            dialogo.press(IDCANCEL);
-        });
-    });
 }
 
 } // namespace

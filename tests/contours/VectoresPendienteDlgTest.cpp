@@ -5,7 +5,6 @@
 
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ContoursIds.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 
 namespace {
@@ -21,23 +20,6 @@ constexpr int Limite = IDC_VECTORES_PENDIENTE_LIMITE;
 constexpr int Buscar = IDC_VECTORES_PENDIENTE_BUSCAR;
 constexpr int Leyenda1 = IDC_VECTORES_PENDIENTE_LEYENDA_1;
 constexpr int Leyenda2 = IDC_VECTORES_PENDIENTE_LEYENDA_2;
-
-static_assert(IDD_VECTORES_PENDIENTE == 20227);
-static_assert(Valor1 == 20018);
-static_assert(Valor2 == 14128);
-static_assert(Cadena1 == 20237);
-static_assert(Cadena2 == 20238);
-static_assert(TextoValor1 == 20090);
-static_assert(TextoEntero == 20092);
-static_assert(FicheroLimite == 20047);
-static_assert(Limite == 20073);
-static_assert(Buscar == 20085);
-static_assert(Leyenda1 == 20239);
-static_assert(Leyenda2 == 20240);
-static_assert(IDI_PENDIENTES == 20096);
-static_assert(IDS_VALOR_TEXTO_NO_POSITIVO == 15037);
-static_assert(IDS_FICHERO_LIMITE_OBLIGATORIO == 20004);
-static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
 
 /// Lets the test at the document template that the dialog keeps.
 class ConPlantilla : public ConIntercambios<CVectoresPendienteDlg> {
@@ -146,17 +128,6 @@ TEST_F(VectoresPendienteDlg, RecordThatTheHostHasJustMadeLacksItsCodesAlone) {
         dialogo.press(IDOK);
     });
     EXPECT_EQ(resultado, IDOK);
-}
-
-TEST_F(VectoresPendienteDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(VectoresPendienteDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_PENDIENTES);
-        dialogo.press(IDCANCEL);
-    });
 }
 
 TEST_F(VectoresPendienteDlg, NumbersAreRoundedTo15DigitsAtOpening) {
@@ -327,25 +298,6 @@ TEST_F(VectoresPendienteDlg, BadNumberIsRefusedAtBrowsingAndThenReplaced) {
 }
 
 // OK.
-
-TEST_F(VectoresPendienteDlg, ExchangeHasNoLimits) {
-    const CString larga(L'k', 300);
-    for (const wchar_t* const texto : {L"-1e300", L"1e300"})
-        Abre([&](kit::Dialog& dialogo) {
-            for (const int control : {Valor1, Valor2, TextoValor1})
-                dialogo.type(control, texto);
-            for (const int control : {Cadena1, Cadena2, FicheroLimite})
-                dialogo.setText(control, larga.GetString());
-            dialogo.click(Limite);
-            for (const double valor :
-                 {data.m_ValorVector1, data.m_ValorVector2, data.m_TextoValor1})
-                EXPECT_EQ(valor, _wtof(texto));
-            for (const CString& cadena : {data.m_Cadena1, data.m_Cadena2, data.m_FicheroLimite})
-                EXPECT_EQ(cadena, larga);
-            dialogo.click(Limite);
-            dialogo.press(IDCANCEL);
-        });
-}
 
 TEST_F(VectoresPendienteDlg, BoundaryFollowsTheRecordWhereTheHostChangesIt) {
     // The host knows of no boundaries.
@@ -612,45 +564,12 @@ TEST_F(VectoresPendienteDlg, CancelKeepsWhatARefusedOkExchanged) {
 
 // By keyboard alone.
 
-TEST_F(VectoresPendienteDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{Valor1, Valor2, Cadena1, Cadena2, TextoValor1, TextoEntero,
-                                    Limite, FicheroLimite, Buscar, IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
 TEST_F(VectoresPendienteDlg, KeyboardPassesTheDisabledBoundary) {
     data.m_Limite = FALSE;
     Abre([](kit::Dialog& dialogo) {
         EXPECT_EQ(RecorreConTabulador(dialogo),
                   (std::vector<int>{Valor1, Valor2, Cadena1, Cadena2, TextoValor1, TextoEntero,
                                     Limite, IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(VectoresPendienteDlg, MnemonicsReachTheirControls) {
-    kit::app.cancelFilePrompt();
-    Abre([this](kit::Dialog& dialogo) {
-        const struct {
-            wchar_t letra;
-            int control;
-        } casos[] = {{L'f', FicheroLimite}, {L'd', TextoEntero}, {L'e', TextoValor1},
-                     {L'o', Cadena2},       {L'c', Cadena1},     {L'l', Valor2},
-                     {L's', Valor1}};
-        for (const auto& caso : casos) {
-            kit::keyboard::mnemonic(caso.letra);
-            EXPECT_EQ(dialogo.focus(), caso.control);
-        }
-        kit::keyboard::mnemonic(L'r');
-        EXPECT_EQ(kit::app.takeFilePrompts().size(), 1U);
-        kit::keyboard::mnemonic(L'b');
-        EXPECT_EQ(dialogo.focus(), Limite);
-        EXPECT_EQ(data.m_Limite, 0);
-        kit::keyboard::mnemonic(L'h');
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151299));
         dialogo.press(IDCANCEL);
     });
 }
@@ -664,27 +583,6 @@ TEST_F(VectoresPendienteDlg, SpaceTicksTheBoundary) {
         EXPECT_TRUE(dialogo.enabled(Buscar));
         dialogo.press(IDCANCEL);
     });
-}
-
-TEST_F(VectoresPendienteDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
-// Help.
-
-TEST_F(VectoresPendienteDlg, F1AndTheHelpButtonOpenItsPage) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaAyuda(dialogo, {Valor1, Cadena1, Limite, Buscar}, 151299);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(VectoresPendienteDlg, HelpExchangesNothing) {
-    CompruebaAyudaSinIntercambio<CVectoresPendienteDlg>(data, plantilla);
-}
-
-TEST_F(VectoresPendienteDlg, HelpOfADerivedClassIsTheOneThatOpens) {
-    CompruebaAyudaDerivada<CVectoresPendienteDlg>(data, plantilla);
 }
 
 // A host's own class on top of the dialog.
@@ -736,23 +634,6 @@ TEST_F(VectoresPendienteDlg, HostCallsTheHandlersItself) {
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(data.m_FicheroLimite, L"chosen.dat");
     EXPECT_EQ(data.m_Cadena2, L"L");
-}
-
-TEST_F(VectoresPendienteDlg, HasClassInformationOfItsOwn) {
-    EXPECT_EQ(CVectoresPendienteDlg::GetThisClass(), RUNTIME_CLASS(CVectoresPendienteDlg));
-    CompruebaClase(Dialogo(), RUNTIME_CLASS(CVectoresPendienteDlg), "CVectoresPendienteDlg");
-}
-
-TEST_F(VectoresPendienteDlg, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        data.m_Limite = TRUE;
-        kit::app.answerFilePrompt(L"edge.dat");
-        Abre([](kit::Dialog& dialogo) {
-            dialogo.press(Buscar);
-            dialogo.click(Limite);
-            dialogo.press(IDCANCEL);
-        });
-    });
 }
 
 } // namespace

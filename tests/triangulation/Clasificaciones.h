@@ -20,10 +20,6 @@ constexpr int Lista = IDC_TRIANGULACION_2D_CLASIFICACIONES;
 constexpr int Todas = IDC_TRIANGULACION_2D_TODAS;
 constexpr int Ninguna = IDC_TRIANGULACION_2D_NINGUNA;
 constexpr int Casilla = IDC_TRIANGULACION_2D_CASILLA;
-static_assert(Lista == IDC_TRIANGULACION_3D_CLASIFICACIONES);
-static_assert(Todas == IDC_TRIANGULACION_3D_TODAS);
-static_assert(Ninguna == IDC_TRIANGULACION_3D_NINGUNA);
-static_assert(Casilla == IDC_TRIANGULACION_3D_CASILLA);
 
 /// A test of a selection dialog: three classifications, the host's variables, and the dialog.
 template <class Dlg>

@@ -4,16 +4,11 @@
 
 namespace {
 
-static_assert(IDD_GENERAR_CASES == 20110);
-
 struct GenerarCases {
     using Clase = Cotana::CGenerarCasesDlg;
-    static constexpr const char* Nombre = "CGenerarCasesDlg";
     static constexpr auto AlSumar = &Clase::OnBnClickedSumarArchivos;
     static constexpr auto AlRestar = &Clase::OnBnClickedRestarArchivos;
     static constexpr auto AlElegir = &Clase::OnLbnSelchangeListaHojas;
-
-    static std::vector<int> Botones() { return {}; }
 
     // Kept in one language, whatever the language file is.
     static Mensaje SinFicheros() {

@@ -6,10 +6,6 @@ namespace {
 
 using Cotana::CLimpiarRelieveRangoZDlg;
 
-static_assert(IDD_LIMPIAR_RELIEVE_RANGO_Z == 19067);
-static_assert(IDC_LIMPIAR_RELIEVE_RANGO_Z_VALOR_A == 18618);
-static_assert(IDC_LIMPIAR_RELIEVE_RANGO_Z_VALOR_B == 19202);
-
 using LimpiarRelieveRangoZDlg = ConLimpieza<CLimpiarRelieveRangoZDlg>;
 
 TEST_F(LimpiarRelieveRangoZDlg, AsksForTheTwoElevations) {
@@ -20,23 +16,6 @@ TEST_F(LimpiarRelieveRangoZDlg, AsksForTheTwoElevations) {
         dialogo.picture(L"LimpiarRelieveRangoZDlg");
         dialogo.press(IDCANCEL);
     });
-}
-
-TEST_F(LimpiarRelieveRangoZDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        kit::keyboard::mnemonic(L'i');
-        EXPECT_EQ(dialogo.focus(), B);
-        kit::keyboard::mnemonic(L'l');
-        EXPECT_EQ(dialogo.focus(), A);
-        kit::keyboard::mnemonic(L'h');
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(150139));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(LimpiarRelieveRangoZDlg, HasClassInformationOfItsOwn) {
-    CompruebaClase(CLimpiarRelieveRangoZDlg(data), RUNTIME_CLASS(CLimpiarRelieveRangoZDlg),
-                   "CLimpiarRelieveRangoZDlg");
 }
 
 } // namespace

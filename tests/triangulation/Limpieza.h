@@ -14,7 +14,6 @@ struct DeLimpieza<Cotana::CLimpiarRelieveDlg> {
     using Data = Cotana::CDataLimpiarRelieve;
     static constexpr int A = IDC_LIMPIAR_RELIEVE_VALOR_A;
     static constexpr int B = IDC_LIMPIAR_RELIEVE_VALOR_B;
-    static constexpr DWORD_PTR contexto = 150073;
 };
 
 template <>
@@ -22,7 +21,6 @@ struct DeLimpieza<Cotana::CLimpiarRelieveRangoZDlg> {
     using Data = Cotana::CDataLimpiarRelieveRangoZ;
     static constexpr int A = IDC_LIMPIAR_RELIEVE_RANGO_Z_VALOR_A;
     static constexpr int B = IDC_LIMPIAR_RELIEVE_RANGO_Z_VALOR_B;
-    static constexpr DWORD_PTR contexto = 150139;
 };
 
 /// A test of a cleaning dialog: its record with two values, and the dialog over it.

@@ -3,7 +3,6 @@
 // can go on while there is one.
 #include "Clasificaciones.h"
 
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 
 #include <limits>
@@ -13,15 +12,6 @@
 namespace {
 
 using Cotana::CInfoClasificacion;
-
-static_assert(Lista == 18084);
-static_assert(Todas == 38267);
-static_assert(Ninguna == 38268);
-static_assert(Casilla == 1036);
-static_assert(IDS_COLUMNA_CODIGO == 18013);
-static_assert(IDS_COLUMNA_TIPO == 21035);
-static_assert(IDS_COLUMNA_VALOR == 21036);
-static_assert(IDI_TRIANGULACION == 19011);
 
 template <class Dlg>
 using ListaClasificaciones = ConClasificaciones<Dlg>;
@@ -160,17 +150,6 @@ TYPED_TEST(ListaClasificaciones, WithoutClassificationsDisablesOk) {
         EXPECT_FALSE(dialogo.enabled(IDOK));
         dialogo.press(Ninguna);
         EXPECT_FALSE(dialogo.enabled(IDOK));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST(ListaClasificaciones, OpensInTheMiddleOfTheOwner) {
-    this->CompruebaQueSeCentra();
-}
-
-TYPED_TEST(ListaClasificaciones, HasTheSmallIconOfTriangulationOnly) {
-    this->Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_TRIANGULACION);
         dialogo.press(IDCANCEL);
     });
 }
@@ -328,10 +307,6 @@ TYPED_TEST(ListaClasificaciones, KeysChooseARow) {
     EXPECT_EQ(dlg->m_Seleccion, (Filas{1, 2}));
 }
 
-TYPED_TEST(ListaClasificaciones, EnterIsOkAndEscapeIsCancel) {
-    this->CompruebaSalidas();
-}
-
 TYPED_TEST(ListaClasificaciones, EnterDoesNothingWhileOkIsDisabled) {
     const auto resultado = this->Abre([](kit::Dialog& dialogo) {
         kit::keyboard::mnemonic(L'n');
@@ -344,20 +319,6 @@ TYPED_TEST(ListaClasificaciones, EnterDoesNothingWhileOkIsDisabled) {
         kit::keyboard::press(VK_RETURN);
     });
     EXPECT_EQ(resultado, IDOK);
-}
-
-// Help.
-
-TYPED_TEST(ListaClasificaciones, NeitherF1NorTheHelpCommandOpensAnything) {
-    this->Abre([](kit::Dialog& dialogo) {
-        dialogo.help();
-        dialogo.focusOn(Casilla);
-        dialogo.help();
-        EXPECT_FALSE(dialogo.exists(ID_HELP));
-        dialogo.command(ID_HELP);
-        EXPECT_TRUE(kit::app.takeHelpRequests().empty());
-        dialogo.press(IDCANCEL);
-    });
 }
 
 // A host's own class on top of the dialog.
@@ -422,15 +383,6 @@ TYPED_TEST(ListaClasificaciones, HostCallsTheHandlersItself) {
         dlg->OnBnClickedMfcbuttonAll();
         EXPECT_EQ(dialogo.list(Lista).selected(), (Filas{0, 1, 2}));
         dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST(ListaClasificaciones, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        this->Abre([](kit::Dialog& dialogo) {
-            dialogo.press(Todas);
-            dialogo.press(IDOK);
-        });
     });
 }
 

@@ -6,7 +6,6 @@
 //
 //     struct GenerarCases {
 //         using Clase = ...;                              // the dialog's class
-//         static std::vector<int> Botones();              // tab stops between number and OK
 //         static Mensaje SinFicheros();                   // its message about an empty list
 //         static constexpr auto AlSumar, AlRestar, AlElegir; // its handlers: add, remove, select
 //         template <class D = Clase> D Dialogo(CWnd* padre = nullptr); // over the host's variables
@@ -16,7 +15,6 @@
 
 #include "checks/ConDialogo.h"
 #include "checks/Escucha.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
@@ -38,11 +36,6 @@ constexpr int Hojas = IDC_GENERAR_CASES_HOJAS;
 constexpr int Sumar = IDC_GENERAR_CASES_SUMAR;
 constexpr int Restar = IDC_GENERAR_CASES_RESTAR;
 constexpr int Valor = IDC_GENERAR_CASES_VALOR;
-static_assert(Hojas == 1025 && IDC_TRIANGULACION_3D_DISCO_HOJAS == 1025);
-static_assert(Sumar == 1004 && IDC_TRIANGULACION_3D_DISCO_SUMAR == 1004);
-static_assert(Restar == 1023 && IDC_TRIANGULACION_3D_DISCO_RESTAR == 1023);
-static_assert(Valor == 38487 && IDC_TRIANGULACION_3D_DISCO_VALOR == 38487);
-static_assert(IDI_TRIANGULACION == 19011);
 
 const Textos CincoFicheros = {L"C:\\0.xyz", L"C:\\1.xyz", L"C:\\2.xyz", L"C:\\3.xyz", L"C:\\4.xyz"};
 
@@ -126,17 +119,6 @@ TYPED_TEST_P(ListaFicheros, ShowsTheHostsNumber) {
     this->valor = -1234.5625;
     this->Abre([](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.text(Valor), L"-1234.5625");
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST_P(ListaFicheros, OpensInTheMiddleOfItsOwner) {
-    this->CompruebaQueSeCentra();
-}
-
-TYPED_TEST_P(ListaFicheros, HasTheSmallIconOfTheSubsystem) {
-    this->Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_TRIANGULACION);
         dialogo.press(IDCANCEL);
     });
 }
@@ -610,20 +592,6 @@ TYPED_TEST_P(ListaFicheros, BadNumberComesBeforeTheEmptyList) {
 
 // By keyboard alone.
 
-TYPED_TEST_P(ListaFicheros, KeyboardReachesEveryControlInReadingOrder) {
-    this->Abre([this](kit::Dialog& dialogo) {
-        dialogo.drop(CincoFicheros);
-        dialogo.listBox(Hojas).click(0);
-        std::vector<int> orden = {Hojas, Sumar, Restar, Valor};
-        for (const int boton : this->Botones())
-            orden.push_back(boton);
-        orden.insert(orden.end(), {IDOK, IDCANCEL});
-        EXPECT_EQ(RecorreConTabulador(dialogo), orden);
-        EXPECT_EQ(dialogo.focus(), Hojas);
-        kit::keyboard::press(VK_ESCAPE);
-    });
-}
-
 TYPED_TEST_P(ListaFicheros, KeysSelectFilesAndRemoveThem) {
     const auto resultado = this->Abre([](kit::Dialog& dialogo) {
         dialogo.drop(CincoFicheros);
@@ -644,29 +612,7 @@ TYPED_TEST_P(ListaFicheros, KeysSelectFilesAndRemoveThem) {
     EXPECT_EQ(ComoTextos(this->ficheros), (Textos{L"C:\\0.xyz", L"C:\\3.xyz", L"C:\\4.xyz"}));
 }
 
-TYPED_TEST_P(ListaFicheros, EscapeIsCancel) {
-    EXPECT_EQ(this->Abre([](kit::Dialog&) { kit::keyboard::press(VK_ESCAPE); }), IDCANCEL);
-}
-
-// What it has not, and what it is.
-
-TYPED_TEST_P(ListaFicheros, AnswersNoRequestForHelp) {
-    this->Abre([](kit::Dialog& dialogo) {
-        EXPECT_FALSE(dialogo.exists(ID_HELP));
-        dialogo.focusOn(Valor);
-        dialogo.help();
-        dialogo.helpOn(Hojas);
-        dialogo.command(ID_HELP);
-        EXPECT_EQ(kit::app.takeHelpRequests(), std::vector<kit::HelpRequest>{});
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST_P(ListaFicheros, HasClassInformationOfItsOwn) {
-    using Clase = typename TypeParam::Clase;
-    EXPECT_EQ(Clase::GetThisClass(), RUNTIME_CLASS(Clase));
-    CompruebaClase(this->Dialogo(), RUNTIME_CLASS(Clase), TypeParam::Nombre);
-}
+// A host's own class on top of the dialog.
 
 TYPED_TEST_P(ListaFicheros, HostCallsTheHandlersItself) {
     kit::app.answerFilePrompt(L"C:\\p.xyz C:\\q.xyz");
@@ -714,40 +660,15 @@ TYPED_TEST_P(ListaFicheros, KeepsItsMembersInTheDeclaredOrder) {
         {&dialogo.m_pValor, &dialogo.m_ListaHojas, &dialogo.m_pFicheros, &dialogo.m_pPlantilla});
 }
 
-TYPED_TEST_P(ListaFicheros, RunsUnderTheStateOfTheHost) {
-    CWinApp* aplicacion = nullptr;
-    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
-    dialogo.alAceptar = [&] { aplicacion = AfxGetApp(); };
-    this->Abre(dialogo, [](kit::Dialog& abierto) {
-        abierto.drop({L"C:\\a.xyz"});
-        abierto.press(IDOK);
-    });
-    EXPECT_EQ(aplicacion, &kit::app);
-}
-
-TYPED_TEST_P(ListaFicheros, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        kit::app.answerFilePrompt(L"C:\\p.xyz \"C:\\q r.xyz\"");
-        this->Abre([](kit::Dialog& dialogo) {
-            dialogo.press(Sumar);
-            dialogo.drop(CincoFicheros);
-            dialogo.listBox(Hojas).choose({1, 3});
-            dialogo.press(Restar);
-            dialogo.press(IDOK);
-        });
-    });
-}
-
 REGISTER_TYPED_TEST_SUITE_P(
     ListaFicheros, StartsEmptyWhateverTheHostsListHolds, ShowsTheHostsNumber,
-    OpensInTheMiddleOfItsOwner, HasTheSmallIconOfTheSubsystem, AsksTheHostForSeveralFiles,
-    CancelledPromptAddsNothingAndKeepsTheText, AnswerWithoutANameAddsNothing,
-    AddsTheNamesOfAnAnswerInItsOrder, AddedFilesEnableOk, NamesFromThePromptMayBeOfAnyLength,
-    TheSameFileTwiceIsListedTwiceAndComesBackTwice, DroppedFilesAreAddedInTheirOrder,
-    DropIsPassedOnToTheDefaultOnceItsFilesAreListed, FilesDroppedOnTheListReachTheDialog,
-    FoldersAndOddNamesAreDroppedLikeFiles, DroppedPathIsCutTo259Characters,
-    ThousandDroppedFilesComeBackInTheirOrder, SelectionEnablesRemoving,
-    RemovesExactlyTheSelectedFiles, RemovingTheLastFileDisablesOk,
+    AsksTheHostForSeveralFiles, CancelledPromptAddsNothingAndKeepsTheText,
+    AnswerWithoutANameAddsNothing, AddsTheNamesOfAnAnswerInItsOrder, AddedFilesEnableOk,
+    NamesFromThePromptMayBeOfAnyLength, TheSameFileTwiceIsListedTwiceAndComesBackTwice,
+    DroppedFilesAreAddedInTheirOrder, DropIsPassedOnToTheDefaultOnceItsFilesAreListed,
+    FilesDroppedOnTheListReachTheDialog, FoldersAndOddNamesAreDroppedLikeFiles,
+    DroppedPathIsCutTo259Characters, ThousandDroppedFilesComeBackInTheirOrder,
+    SelectionEnablesRemoving, RemovesExactlyTheSelectedFiles, RemovingTheLastFileDisablesOk,
     RemoveButtonStaysEnabledUntilTheSelectionChanges,
     AddingAndDroppingKeepTheRemoveButtonAsRemovingLeftIt, RemoveCommandOnAnEmptyListDoesNothing,
     DroppedPromptedAndRemovedFilesMakeOneList, OkReplacesTheHostsListAndWritesTheNumber,
@@ -756,9 +677,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     HostSeesEachExchangeAsItIsDocumented, BadNumberIsRefusedAtAddingAndThenReplaced,
     BadNumberIsRefusedAtRemovingAndThenReplaced,
     BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame,
-    BadNumberComesBeforeTheEmptyList, KeyboardReachesEveryControlInReadingOrder,
-    KeysSelectFilesAndRemoveThem, EscapeIsCancel, AnswersNoRequestForHelp,
-    HasClassInformationOfItsOwn, HostCallsTheHandlersItself, KeepsItsMembersInTheDeclaredOrder,
-    RunsUnderTheStateOfTheHost, LeavesNothingBehind);
+    BadNumberComesBeforeTheEmptyList, KeysSelectFilesAndRemoveThem, HostCallsTheHandlersItself,
+    KeepsItsMembersInTheDeclaredOrder);
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "cuadros/triangulation/SuavizarTINDlg.h"
 
 #include "checks/ConDialogo.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
 namespace {
@@ -12,12 +11,6 @@ namespace {
 constexpr int Factor = IDC_SUAVIZAR_TIN_FACTOR;
 constexpr int Iterar = IDC_SUAVIZAR_TIN_ITERAR;
 constexpr int Iteraciones = IDC_SUAVIZAR_TIN_ITERACIONES;
-
-static_assert(IDD_SUAVIZAR_TIN == 20114);
-static_assert(Factor == 20077);
-static_assert(Iterar == 1031);
-static_assert(Iteraciones == 1032);
-static_assert(IDI_TRIANGULACION == 19011);
 
 class SuavizarTINDlg : public ConDialogo {
 protected:
@@ -52,17 +45,6 @@ TEST_F(SuavizarTINDlg, SingleSmoothingStartsWithTheNumberOfTimesDisabled) {
         EXPECT_EQ(dialogo.text(Iteraciones), L"3");
         EXPECT_FALSE(dialogo.enabled(Iteraciones));
         EXPECT_TRUE(dialogo.enabled(Factor));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(SuavizarTINDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(SuavizarTINDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_TRIANGULACION);
         dialogo.press(IDCANCEL);
     });
 }
@@ -245,35 +227,11 @@ TEST_F(SuavizarTINDlg, CancelKeepsWhatTheClickExchanged) {
 
 // By keyboard alone.
 
-TEST_F(SuavizarTINDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{Factor, Iterar, Iteraciones, IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
 TEST_F(SuavizarTINDlg, KeyboardPassesTheDisabledNumberOfTimes) {
     data.m_Iterar = FALSE;
     Abre([](kit::Dialog& dialogo) {
         EXPECT_EQ(RecorreConTabulador(dialogo),
                   (std::vector<int>{Factor, Iterar, IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(SuavizarTINDlg, MnemonicsReachTheirControls) {
-    Abre([this](kit::Dialog& dialogo) {
-        kit::keyboard::mnemonic(L'n');
-        EXPECT_EQ(dialogo.focus(), Iteraciones);
-        kit::keyboard::mnemonic(L's');
-        EXPECT_EQ(dialogo.focus(), Factor);
-        kit::keyboard::mnemonic(L'r');
-        EXPECT_EQ(dialogo.focus(), Iterar);
-        EXPECT_FALSE(dialogo.checked(Iterar));
-        EXPECT_EQ(data.m_Iterar, 0);
-        kit::keyboard::mnemonic(L'h');
-        EXPECT_EQ(kit::app.takeHelpRequests(), PaginaDeAyuda(151186));
         dialogo.press(IDCANCEL);
     });
 }
@@ -286,27 +244,6 @@ TEST_F(SuavizarTINDlg, SpaceChangesTheCheckBox) {
         EXPECT_FALSE(dialogo.enabled(Iteraciones));
         dialogo.press(IDCANCEL);
     });
-}
-
-TEST_F(SuavizarTINDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
-// Help.
-
-TEST_F(SuavizarTINDlg, F1AndTheHelpButtonOpenItsPage) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaAyuda(dialogo, {Factor, Iterar}, 151186);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(SuavizarTINDlg, HelpExchangesNothing) {
-    CompruebaAyudaSinIntercambio<CSuavizarTINDlg>(data);
-}
-
-TEST_F(SuavizarTINDlg, HelpOfADerivedClassIsTheOneThatOpens) {
-    CompruebaAyudaDerivada<CSuavizarTINDlg>(data);
 }
 
 // A host's own class on top of the dialog.
@@ -344,19 +281,6 @@ TEST_F(SuavizarTINDlg, HostCallsTheHandlerItself) {
         dialogo.press(IDCANCEL);
     });
     EXPECT_EQ(resultado, IDCANCEL);
-}
-
-TEST_F(SuavizarTINDlg, HasClassInformationOfItsOwn) {
-    CompruebaClase(CSuavizarTINDlg(data), RUNTIME_CLASS(CSuavizarTINDlg), "CSuavizarTINDlg");
-}
-
-TEST_F(SuavizarTINDlg, LeavesNothingBehind) {
-    CompruebaQueNadaQueda([this] {
-        Abre([](kit::Dialog& dialogo) {
-            dialogo.click(Iterar);
-            dialogo.press(IDCANCEL);
-        });
-    });
 }
 
 } // namespace

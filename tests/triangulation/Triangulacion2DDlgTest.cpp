@@ -11,10 +11,6 @@ using Cotana::CTriangulacion2DDlg;
 constexpr int Valor = IDC_TRIANGULACION_2D_VALOR;
 constexpr int Nombre = IDC_TRIANGULACION_2D_NOMBRE;
 
-static_assert(IDD_TRIANGULACION_2D == 12102);
-static_assert(Valor == 18298);
-static_assert(Nombre == 19013);
-
 class Triangulacion2DDlg : public ConClasificaciones<CTriangulacion2DDlg> {
 protected:
     /// Types the number's text and takes OK.
@@ -171,34 +167,6 @@ TEST_F(Triangulacion2DDlg, CancelForgetsWhatWasTyped) {
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(valor, 2.5);
     EXPECT_EQ(nombre, L"North slope");
-}
-
-TEST_F(Triangulacion2DDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(
-            RecorreConTabulador(dialogo),
-            (std::vector<int>{Lista, Todas, Ninguna, Valor, Nombre, Casilla, IDOK, IDCANCEL}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(Triangulacion2DDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        kit::keyboard::mnemonic(L'p');
-        EXPECT_EQ(dialogo.focus(), Valor);
-        kit::keyboard::mnemonic(L'm');
-        EXPECT_EQ(dialogo.focus(), Nombre);
-        kit::keyboard::mnemonic(L'c');
-        EXPECT_EQ(dialogo.focus(), Lista);
-        kit::keyboard::mnemonic(L't');
-        EXPECT_EQ(dialogo.focus(), Casilla);
-        EXPECT_FALSE(dialogo.checked(Casilla));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(Triangulacion2DDlg, HasClassInformationOfItsOwn) {
-    CompruebaClase(*Crea(), RUNTIME_CLASS(CTriangulacion2DDlg), "CTriangulacion2DDlg");
 }
 
 /// Shows the members that a derived class sees.

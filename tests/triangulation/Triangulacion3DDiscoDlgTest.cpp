@@ -7,18 +7,12 @@ namespace {
 
 constexpr int Opcion1 = IDC_TRIANGULACION_3D_DISCO_OPCION_1;
 constexpr int Opcion2 = IDC_TRIANGULACION_3D_DISCO_OPCION_2;
-static_assert(IDD_TRIANGULACION_3D_DISCO == 20108);
-static_assert(Opcion1 == 1002 && Opcion2 == 1003);
-static_assert(IDS_SIN_FICHEROS == 20243);
 
 struct Triangulacion3DDisco {
     using Clase = Cotana::CTriangulacion3DDiscoDlg;
-    static constexpr const char* Nombre = "CTriangulacion3DDiscoDlg";
     static constexpr auto AlSumar = &Clase::OnSumarArchivos;
     static constexpr auto AlRestar = &Clase::OnRestarArchivos;
     static constexpr auto AlElegir = &Clase::OnSelchangeListaHojas;
-
-    static std::vector<int> Botones() { return {Opcion1}; }
 
     static Mensaje SinFicheros() { return {L"Error", TextoDe(IDS_SIN_FICHEROS), MB_ICONERROR}; }
 

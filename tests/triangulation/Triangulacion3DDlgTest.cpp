@@ -12,10 +12,6 @@ using Cotana::CTriangulacion3DDlg;
 constexpr int Valor = IDC_TRIANGULACION_3D_VALOR;
 constexpr int Entero = IDC_TRIANGULACION_3D_ENTERO;
 
-static_assert(IDD_TRIANGULACION_3D == 12101);
-static_assert(Valor == 38487);
-static_assert(Entero == 20246);
-
 using Triangulacion3DDlg = ConClasificaciones<CTriangulacion3DDlg>;
 
 TEST_F(Triangulacion3DDlg, ShowsTheNumberAndTheOption) {
@@ -154,35 +150,6 @@ TEST_F(Triangulacion3DDlg, CancelAfterABadNumberKeepsTheAppendedSelection) {
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(valor, 2.5);
     EXPECT_EQ(dlg->m_Seleccion, Filas{0});
-}
-
-TEST_F(Triangulacion3DDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(
-            RecorreConTabulador(dialogo),
-            (std::vector<int>{Lista, Todas, Ninguna, Valor, Entero, Casilla, IDOK, IDCANCEL}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(Triangulacion3DDlg, MnemonicsReachTheirControls) {
-    Abre([](kit::Dialog& dialogo) {
-        kit::keyboard::mnemonic(L'p');
-        EXPECT_EQ(dialogo.focus(), Valor);
-        kit::keyboard::mnemonic(L'u');
-        EXPECT_EQ(dialogo.focus(), Entero);
-        EXPECT_TRUE(dialogo.checked(Entero));
-        kit::keyboard::mnemonic(L't');
-        EXPECT_EQ(dialogo.focus(), Casilla);
-        EXPECT_FALSE(dialogo.checked(Casilla));
-        kit::keyboard::mnemonic(L'c');
-        EXPECT_EQ(dialogo.focus(), Lista);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(Triangulacion3DDlg, HasClassInformationOfItsOwn) {
-    CompruebaClase(*Crea(), RUNTIME_CLASS(CTriangulacion3DDlg), "CTriangulacion3DDlg");
 }
 
 /// Shows the members that a derived class sees.

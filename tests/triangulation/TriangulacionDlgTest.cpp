@@ -6,7 +6,6 @@
 #include "cuadros/triangulation/TriangulacionDlg.h"
 
 #include "checks/ConDialogo.h"
-#include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
@@ -18,33 +17,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-// Hosts, their help and the language file know these numbers.
-static_assert(IDD_TRIANGULACION == 19011);
-static_assert(IDI_TRIANGULACION == 19011);
-static_assert(IDC_TRIANGULACION_NO_UNIR_CURVAS == 19004);
-static_assert(IDC_TRIANGULACION_TODOS_CODIGOS == 19005);
-static_assert(IDC_TRIANGULACION_NINGUN_CODIGO == 19006);
-static_assert(IDC_TRIANGULACION_TODAS_RUPTURAS == 19007);
-static_assert(IDC_TRIANGULACION_NINGUNA_RUPTURA == 19008);
-static_assert(IDC_TRIANGULACION_CODIGOS == 19012);
-static_assert(IDC_TRIANGULACION_NOMBRE == 19013);
-static_assert(IDC_TRIANGULACION_LIMITE_INFERIOR == 19014);
-static_assert(IDC_TRIANGULACION_LIMITE_SUPERIOR == 19015);
-static_assert(IDC_TRIANGULACION_RUPTURAS == 19016);
-static_assert(IDC_TRIANGULACION_USAR_RUPTURAS == 19017);
-static_assert(IDC_TRIANGULACION_DISTANCIA_NO_UNIR == 19203);
-static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_1 == 20228);
-static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_2 == 20229);
-static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_3 == 20230);
-static_assert(IDC_TRIANGULACION_TIPO_RUPTURA_4 == 20231);
-static_assert(IDC_TRIANGULACION_PARAMETRO_EXTRA == 38487);
-static_assert(IDS_TEXTO_OBLIGATORIO == 15104);
-static_assert(IDS_COLUMNA_CODIGO == 18013);
-static_assert(IDS_COLUMNA_NEMOTECNICO == 18014);
-static_assert(IDS_SIN_CODIGOS == 19002);
-static_assert(IDS_LIMITES_NO_CRECIENTES == 19003);
-static_assert(IDS_VALOR_NO_POSITIVO == 19076);
 
 namespace {
 
@@ -166,17 +138,6 @@ TEST_F(TriangulacionDlg, ShowsTheRecord) {
         EXPECT_TRUE(dialogo.checked(IDC_TRIANGULACION_NO_UNIR_CURVAS));
         EXPECT_EQ(dialogo.radio(IDC_TRIANGULACION_TIPO_RUPTURA_1, IDC_TRIANGULACION_TIPO_RUPTURA_4),
                   IDC_TRIANGULACION_TIPO_RUPTURA_3);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(TriangulacionDlg, OpensInTheMiddleOfItsOwner) {
-    CompruebaQueSeCentra();
-}
-
-TEST_F(TriangulacionDlg, HasItsSmallIconOnly) {
-    Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_TRIANGULACION);
         dialogo.press(IDCANCEL);
     });
 }
@@ -775,40 +736,6 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedAtTheFirstOfSeveralChangesOnly) {
 
 // By keyboard alone.
 
-TEST_F(TriangulacionDlg, KeyboardReachesEveryControlInReadingOrder) {
-    Abre([](kit::Dialog& dialogo) {
-        // Of a radio group only the chosen button is a stop.
-        const std::vector<int> orden = {IDC_TRIANGULACION_NOMBRE,
-                                        Codigos,
-                                        IDC_TRIANGULACION_TODOS_CODIGOS,
-                                        IDC_TRIANGULACION_NINGUN_CODIGO,
-                                        IDC_TRIANGULACION_USAR_RUPTURAS,
-                                        Rupturas,
-                                        IDC_TRIANGULACION_TODAS_RUPTURAS,
-                                        IDC_TRIANGULACION_NINGUNA_RUPTURA,
-                                        IDC_TRIANGULACION_TIPO_RUPTURA_3,
-                                        IDC_TRIANGULACION_LIMITE_INFERIOR,
-                                        IDC_TRIANGULACION_LIMITE_SUPERIOR,
-                                        IDC_TRIANGULACION_PARAMETRO_EXTRA,
-                                        IDC_TRIANGULACION_NO_UNIR_CURVAS,
-                                        IDC_TRIANGULACION_DISTANCIA_NO_UNIR,
-                                        IDOK,
-                                        IDCANCEL};
-        std::vector<int> recorrido;
-        for (std::size_t i = 0; i < orden.size(); ++i) {
-            recorrido.push_back(dialogo.focus());
-            kit::keyboard::press(VK_TAB);
-        }
-        EXPECT_EQ(recorrido, orden);
-        EXPECT_EQ(dialogo.focus(), orden.front());
-        kit::keyboard::press(VK_ESCAPE);
-    });
-}
-
-TEST_F(TriangulacionDlg, EnterIsOkAndEscapeIsCancel) {
-    CompruebaSalidas();
-}
-
 TEST_F(TriangulacionDlg, KeysChooseOneCode) {
     Abre([this](kit::Dialog& dialogo) {
         dialogo.focusOn(Codigos);
@@ -828,30 +755,6 @@ TEST_F(TriangulacionDlg, SpaceClearsACheckBox) {
         EXPECT_FALSE(dialogo.checked(IDC_TRIANGULACION_USAR_RUPTURAS));
         EXPECT_FALSE(data.m_Rupturas);
         kit::keyboard::press(VK_ESCAPE);
-    });
-}
-
-// Help.
-
-TEST_F(TriangulacionDlg, F1OpensItsPageOfTheHostsHelpFile) {
-    Abre([](kit::Dialog& dialogo) {
-        const std::vector<kit::HelpRequest> suPagina = {{150083, 15}};
-        dialogo.focusOn(IDC_TRIANGULACION_NOMBRE);
-        dialogo.help();
-        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
-        dialogo.focusOn(Codigos);
-        dialogo.help();
-        EXPECT_EQ(kit::app.takeHelpRequests(), suPagina);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TEST_F(TriangulacionDlg, HelpCommandOfAButtonIsNotItsOwn) {
-    Abre([](kit::Dialog& dialogo) {
-        EXPECT_FALSE(dialogo.exists(ID_HELP));
-        dialogo.command(ID_HELP);
-        EXPECT_EQ(kit::app.takeHelpRequests(), std::vector<kit::HelpRequest>{});
-        dialogo.press(IDCANCEL);
     });
 }
 
@@ -959,24 +862,6 @@ TEST_F(TriangulacionDlg, HostSeesEachExchangeAsItIsDocumented) {
     EXPECT_EQ(script.run([&] { return contador.DoModal(); }), IDOK);
     // The second one comes when the tables are in the record: no breakline is left selected.
     EXPECT_EQ(desdeAntes(), " S211 S210");
-}
-
-TEST_F(TriangulacionDlg, HasNoClassInformationOfItsOwn) {
-    EXPECT_EQ(CTriangulacionDlg(data).GetRuntimeClass(), RUNTIME_CLASS(CDialog));
-}
-
-TEST_F(TriangulacionDlg, LeavesNothingBehind) {
-    const auto unaVez = [this] {
-        Abre([](kit::Dialog& dialogo) {
-            dialogo.list(Codigos).select(1, false);
-            dialogo.press(IDCANCEL);
-        });
-    };
-    unaVez();
-    const auto antes = kit::Handles::now();
-    for (int i = 0; i < 5; ++i)
-        unaVez();
-    EXPECT_EQ(kit::Handles::now(), antes);
 }
 
 } // namespace

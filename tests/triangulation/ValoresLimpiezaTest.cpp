@@ -3,8 +3,6 @@
 // types is refused.
 #include "Limpieza.h"
 
-#include "cuadros/resources/IconIds.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -12,9 +10,6 @@
 #include <vector>
 
 namespace {
-
-static_assert(IDI_LIMPIAR_RELIEVE == 19001);
-static_assert(ID_HELP == 57670);
 
 template <class Dlg>
 using ValoresLimpieza = ConLimpieza<Dlg>;
@@ -27,17 +22,6 @@ TYPED_TEST(ValoresLimpieza, AreShownWithTwoDecimals) {
     this->Abre([](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.text(TestFixture::A), L"12.50");
         EXPECT_EQ(dialogo.text(TestFixture::B), L"-0.25");
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST(ValoresLimpieza, OpenInTheMiddleOfTheOwner) {
-    this->CompruebaQueSeCentra();
-}
-
-TYPED_TEST(ValoresLimpieza, HaveTheSmallIconOfCleaningOnly) {
-    this->Abre([](kit::Dialog& dialogo) {
-        CompruebaIcono(dialogo, IDI_LIMPIAR_RELIEVE);
         dialogo.press(IDCANCEL);
     });
 }
@@ -117,18 +101,6 @@ TYPED_TEST(ValoresLimpieza, CancelLeavesTheRecordUntouched) {
 
 // By keyboard alone.
 
-TYPED_TEST(ValoresLimpieza, KeyboardReachesThemInReadingOrder) {
-    this->Abre([](kit::Dialog& dialogo) {
-        EXPECT_EQ(RecorreConTabulador(dialogo),
-                  (std::vector<int>{TestFixture::A, TestFixture::B, IDOK, IDCANCEL, ID_HELP}));
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST(ValoresLimpieza, EnterIsOkAndEscapeIsCancel) {
-    this->CompruebaSalidas();
-}
-
 TYPED_TEST(ValoresLimpieza, TypingOverTheFirstOneNeedsNoMouse) {
     const auto resultado = this->Abre([](kit::Dialog&) {
         kit::keyboard::type(L"4");
@@ -139,23 +111,6 @@ TYPED_TEST(ValoresLimpieza, TypingOverTheFirstOneNeedsNoMouse) {
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(this->data.m_ValorA, 4);
     EXPECT_EQ(this->data.m_ValorB, 6);
-}
-
-// Help.
-
-TYPED_TEST(ValoresLimpieza, F1AndTheHelpButtonOpenTheSamePage) {
-    this->Abre([](kit::Dialog& dialogo) {
-        CompruebaAyuda(dialogo, {TestFixture::A, TestFixture::B}, TestFixture::De::contexto);
-        dialogo.press(IDCANCEL);
-    });
-}
-
-TYPED_TEST(ValoresLimpieza, HelpExchangesNothing) {
-    CompruebaAyudaSinIntercambio<TypeParam>(this->data);
-}
-
-TYPED_TEST(ValoresLimpieza, HelpOfADerivedClassIsTheOneThatOpens) {
-    CompruebaAyudaDerivada<TypeParam>(this->data);
 }
 
 // A host's own class on top of the dialog.
@@ -228,11 +183,6 @@ public:
 
 TYPED_TEST(ValoresLimpieza, MembersFollowEachOtherInTheirOrder) {
     ConMiembros<TypeParam>(this->data).Comprueba();
-}
-
-TYPED_TEST(ValoresLimpieza, LeaveNothingBehind) {
-    CompruebaQueNadaQueda(
-        [this] { this->Abre([](kit::Dialog& dialogo) { dialogo.press(IDOK); }); });
 }
 
 } // namespace

@@ -4,24 +4,28 @@ namespace Cuadros {
 
 namespace {
 
-CRect EnPantalla(CWnd& dialogo, int control) {
+CRect EnPantalla(const CWnd& control) {
     CRect marco;
-    dialogo.GetDlgItem(control)->GetWindowRect(&marco);
+    control.GetWindowRect(&marco);
     return marco;
 }
 
 } // namespace
 
 int AlturaEntre(CWnd& dialogo, int arriba, int abajo) {
-    return EnPantalla(dialogo, abajo).top - EnPantalla(dialogo, arriba).top;
+    const CWnd* const deArriba = dialogo.GetDlgItem(arriba);
+    const CWnd* const deAbajo = dialogo.GetDlgItem(abajo);
+    return deArriba && deAbajo ? EnPantalla(*deAbajo).top - EnPantalla(*deArriba).top : 0;
 }
 
 void Sube(CWnd& dialogo, int pixeles, std::initializer_list<int> controles) {
-    for (const int control : controles) {
-        CRect marco = EnPantalla(dialogo, control);
+    for (const int numero : controles) {
+        CWnd* const control = dialogo.GetDlgItem(numero);
+        if (control == nullptr)
+            continue;
+        CRect marco = EnPantalla(*control);
         dialogo.ScreenToClient(&marco);
-        dialogo.GetDlgItem(control)->MoveWindow(marco.left, marco.top - pixeles, marco.Width(),
-                                                marco.Height());
+        control->MoveWindow(marco.left, marco.top - pixeles, marco.Width(), marco.Height());
     }
 }
 

@@ -8,10 +8,12 @@
 
 namespace Cuadros {
 
-/// How far the top of control `abajo` is below the top of control `arriba`, in pixels.
+/// How far the top of control `abajo` is below the top of control `arriba`, in pixels; 0 where one
+/// of them is absent.
 int AlturaEntre(CWnd& dialogo, int arriba, int abajo);
 
-/// Moves controls up, in this order, keeping their left edge and their size.
+/// Moves controls up, in this order, keeping their left edge and their size. One that is absent is
+/// passed over.
 void Sube(CWnd& dialogo, int pixeles, std::initializer_list<int> controles);
 
 /// Takes height off the bottom of a dialog, keeping its place and its width. A dialog that was

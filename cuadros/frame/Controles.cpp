@@ -5,6 +5,8 @@ namespace Cuadros {
 void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> controles) {
     for (const int numero : controles) {
         CWnd* const control = dialogo.GetDlgItem(numero);
+        if (control == nullptr)
+            continue;
         // A control that is disabled while it has the focus (an edit whose text was just refused)
         // would leave the keyboard to nobody.
         if (!habilitados && control == CWnd::GetFocus()) {
@@ -16,8 +18,10 @@ void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> contro
 }
 
 void Muestra(CWnd& dialogo, int como, std::initializer_list<int> controles) {
-    for (const int control : controles)
-        dialogo.GetDlgItem(control)->ShowWindow(como);
+    for (const int numero : controles) {
+        if (CWnd* const control = dialogo.GetDlgItem(numero))
+            control->ShowWindow(como);
+    }
 }
 
 void FaltaControl(const CWnd& dialogo, int numero) {

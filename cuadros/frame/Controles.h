@@ -6,6 +6,9 @@
 
 namespace Cuadros {
 
+// A number that no control of the dialog has is passed over: a language file may lack any, and a
+// dialog whose window is gone has none at all.
+
 /// Enables or disables the controls of a dialog with these numbers, in this order. One that is
 /// disabled with the focus on it passes it on to the control before it.
 void Habilita(CWnd& dialogo, BOOL habilitados, std::initializer_list<int> controles);

@@ -65,3 +65,20 @@ TEST(Compacta, ShrunkWindowIsNoLongerTopmost) {
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
 }
+
+TEST(Compacta, AbsentControlsArePassedOver) {
+    constexpr int ninguno = 4321;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        EXPECT_EQ(Cuadros::AlturaEntre(prueba, IDC_PRUEBA_FILA_QUITA, ninguno), 0);
+        EXPECT_EQ(Cuadros::AlturaEntre(prueba, ninguno, IDC_PRUEBA_TEXTO), 0);
+        const CRect aceptar = MarcoDe(prueba, IDOK);
+        Cuadros::Sube(prueba, 20, {ninguno, IDOK});
+        EXPECT_EQ(MarcoDe(prueba, IDOK), aceptar - CPoint(0, 20));
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+    EXPECT_EQ(Cuadros::AlturaEntre(dialogo, IDOK, IDCANCEL), 0);
+    Cuadros::Sube(dialogo, 20, {IDOK});
+    Cuadros::Encoge(dialogo, 20);
+    EXPECT_EQ(dialogo.m_hWnd, nullptr);
+}

@@ -174,3 +174,25 @@ TEST(Controles, AreVisitedInTheOrderOfTheList) {
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
 }
+
+// A language file may lack any control, and a dialog that is gone lacks all.
+TEST(Controles, ThatAreAbsentArePassedOver) {
+    constexpr int ninguno = 4321;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        const std::vector<int> los2 = {IDC_PRUEBA_TEXTO, IDC_PRUEBA_OTRO_TEXTO};
+        Orden habilitados(prueba, WM_ENABLE);
+        Cuadros::Habilita(prueba, FALSE,
+                          {ninguno, IDC_PRUEBA_TEXTO, ninguno, IDC_PRUEBA_OTRO_TEXTO});
+        EXPECT_EQ(habilitados.controles, los2);
+        Orden mostrados(prueba, WM_SHOWWINDOW);
+        Cuadros::Muestra(prueba, SW_HIDE,
+                         {ninguno, IDC_PRUEBA_TEXTO, ninguno, IDC_PRUEBA_OTRO_TEXTO});
+        EXPECT_EQ(mostrados.controles, los2);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+    Cuadros::Habilita(dialogo, TRUE, {IDOK});
+    Cuadros::Habilita(dialogo, FALSE, {IDOK});
+    Cuadros::Muestra(dialogo, SW_HIDE, {IDOK});
+    EXPECT_EQ(dialogo.m_hWnd, nullptr);
+}

@@ -1,8 +1,30 @@
 #include "cuadros/frame/Dialogo.h"
 
+#include <map>
+#include <mutex>
+#include <utility>
+
 #include "cuadros/resources/StringIds.h"
 
 namespace Cuadros {
+
+namespace {
+
+/// The group icon of that number; null when no module has it. Loaded once and kept: a module that
+/// is mapped as data, as the language file is, makes a new one at each call.
+HICON Icono(UINT numero) {
+    static std::mutex cerrojo; // a host may open dialogs on several threads
+    static std::map<std::pair<HINSTANCE, UINT>, HICON> cargados;
+    const LPCTSTR nombre = MAKEINTRESOURCE(numero);
+    const HINSTANCE modulo = AfxFindResourceHandle(nombre, RT_GROUP_ICON);
+    const std::lock_guard cerrado(cerrojo);
+    HICON& icono = cargados[{modulo, numero}];
+    if (icono == nullptr)
+        icono = LoadIcon(modulo, nombre);
+    return icono;
+}
+
+} // namespace
 
 CString Texto(UINT numero) {
     CString texto;
@@ -11,10 +33,8 @@ CString Texto(UINT numero) {
 }
 
 void PonIcono(CWnd& dialogo, UINT icono) {
-    const LPCTSTR nombre = MAKEINTRESOURCE(icono);
-    const HICON imagen = LoadIcon(AfxFindResourceHandle(nombre, RT_GROUP_ICON), nombre);
     // Kept: only the small one, since the task switcher is to show the host's.
-    dialogo.SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(imagen));
+    dialogo.SendMessage(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(Icono(icono)));
 }
 
 void CentraConIcono(CWnd& dialogo, UINT icono) {

@@ -5,6 +5,7 @@
 
 #include "DialogoPrueba.h"
 #include "OtraAplicacion.h"
+#include "cuadros/resources/IconIds.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
 
@@ -39,6 +40,33 @@ TEST(Dialogo, HasNoIconWhereNoModuleHasTheNumber) {
         vista.press(IDCANCEL);
     });
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+// There each call of the system's makes a new icon.
+TEST(Dialogo, IconOfAModuleThatIsMappedAsDataIsLoadedOnce) {
+    const HMODULE idioma = LoadLibraryExW(
+        L"CuadrosENU.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+    ASSERT_NE(idioma, nullptr);
+    const auto abre = [&] {
+        HICON primero = nullptr;
+        CDialogoPrueba dialogo([&](CDialogoPrueba& prueba) {
+            const HINSTANCE propio = AfxGetResourceHandle();
+            AfxSetResourceHandle(idioma);
+            for (int i = 0; i < 1000; ++i)
+                Cuadros::PonIcono(prueba, IDI_PERFILES);
+            AfxSetResourceHandle(propio);
+            primero = prueba.GetIcon(FALSE);
+            EXPECT_NE(primero, nullptr);
+            prueba.EndDialog(IDCANCEL);
+        });
+        EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+        return primero;
+    };
+    const HICON icono = abre();
+    const auto antes = kit::Handles::now();
+    EXPECT_EQ(abre(), icono);
+    EXPECT_EQ(kit::Handles::now(), antes);
+    FreeLibrary(idioma);
 }
 
 TEST(Dialogo, IsCentredOnItsOwner) {

@@ -1,6 +1,7 @@
+// Several files at once, as the user names them: in a file prompt, or by dropping them.
 #pragma once
 
-#include <afx.h>
+#include <afxwin.h>
 
 #include <vector>
 
@@ -18,5 +19,9 @@ int SeparaNombres(const CString& nombres, int cuantos, CString* destino);
 
 /// All names of the line `nombres`, in order; empty when it holds none.
 std::vector<CString> ListaNombres(const CString& nombres);
+
+/// The paths of the files and folders that were dropped, each whole, in the order in which the
+/// shell reports them.
+std::vector<CString> RutasSoltadas(HDROP soltados);
 
 } // namespace Cuadros

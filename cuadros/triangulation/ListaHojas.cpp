@@ -1,7 +1,5 @@
 #include "cuadros/triangulation/ListaHojas.h"
 
-#include <shellapi.h>
-
 #include <algorithm>
 
 #include "cuadros/frame/Controles.h"
@@ -19,14 +17,10 @@ bool SumaNombres(CListBox& lista, const CString& nombres) {
 }
 
 void SumaSoltados(CListBox& lista, HDROP soltados) {
-    constexpr UINT cuenta = 0xFFFFFFFF;
-    const UINT cuantos = DragQueryFile(soltados, cuenta, nullptr, 0);
+    constexpr int maximo = 259; // Kept: a longer path is cut.
     const ListaSinDibujar quieta(lista);
-    for (UINT i = 0; i < cuantos; ++i) {
-        TCHAR ruta[260] = L""; // Kept: a longer path is cut
-        DragQueryFile(soltados, i, ruta, 260);
-        lista.AddString(ruta);
-    }
+    for (const CString& ruta : RutasSoltadas(soltados))
+        lista.AddString(ruta.Left(maximo));
 }
 
 void RestaSeleccionados(CListBox& lista) {
@@ -43,6 +37,8 @@ bool HaySeleccion(const CListBox& lista) {
 
 void RecogeHojas(CListBox& lista, std::vector<CString>& hojas) {
     hojas.clear();
+    // Drawn, each file would scroll the list once more.
+    const ListaSinDibujar quieta(lista);
     const int cuantas = lista.GetCount();
     for (int i = 0; i < cuantas; ++i) {
         // Kept: the list shows each file being taken.

@@ -4,7 +4,10 @@
 
 #include "kit/kit.h"
 
+#include <shlobj.h>
+
 #include <array>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -101,4 +104,37 @@ TEST(Nombres, NothingIsTouchedWithoutALineOrAWantedCount) {
     EXPECT_EQ(nombre, L"kept");
     EXPECT_EQ(Cuadros::SeparaNombres(CString(L"a b"), 0, &nombre), 0);
     EXPECT_EQ(nombre, L"kept");
+}
+
+namespace {
+
+/// The paths that come out of a drop of these.
+Nombres Soltadas(const Nombres& rutas) {
+    std::wstring lista;
+    for (const std::wstring& ruta : rutas)
+        lista += ruta + L'\0';
+    lista += L'\0';
+    const std::size_t bytes = lista.size() * sizeof(wchar_t);
+    const HGLOBAL memoria = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + bytes);
+    auto* const cabecera = static_cast<DROPFILES*>(GlobalLock(memoria));
+    cabecera->pFiles = sizeof(DROPFILES);
+    cabecera->fWide = TRUE;
+    std::memcpy(cabecera + 1, lista.data(), bytes);
+    GlobalUnlock(memoria);
+    const auto soltados = static_cast<HDROP>(memoria);
+    Nombres nombres;
+    for (const CString& ruta : Cuadros::RutasSoltadas(soltados))
+        nombres.emplace_back(ruta.GetString(), static_cast<std::size_t>(ruta.GetLength()));
+    DragFinish(soltados);
+    return nombres;
+}
+
+} // namespace
+
+TEST(Nombres, DroppedPathsComeWholeAndInTheirOrder) {
+    const auto ruta = [](std::size_t longitud) { return std::wstring(longitud - 1, L'k') + L'z'; };
+    for (const Nombres& rutas :
+         {Nombres{L"C:\\z.xyz"}, Nombres{L"C:\\z.xyz", L"C:\\a b.xyz", L"C:\\"},
+          Nombres{ruta(258), ruta(259), ruta(260), ruta(261), ruta(3000), L"C:\\last.xyz"}})
+        EXPECT_EQ(Soltadas(rutas), rutas);
 }

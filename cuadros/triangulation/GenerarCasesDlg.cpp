@@ -70,8 +70,8 @@ void CGenerarCasesDlg::OnDropFiles(HDROP hDropInfo) {
 }
 
 void CGenerarCasesDlg::OnOK() {
-    // Kept: a number that is refused here does not stop the list from reaching the host.
-    UpdateData(TRUE);
+    if (!UpdateData(TRUE))
+        return;
     // Kept: neither the text nor the caption is in the language file.
     if (m_ListaHojas.GetCount() == 0)
         return Cuadros::Rechaza(*this, L"No ha seleccionado ning\u00FAn archivo", L"Error");

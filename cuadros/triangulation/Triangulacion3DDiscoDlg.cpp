@@ -75,8 +75,8 @@ void CTriangulacion3DDiscoDlg::OnDropFiles(HDROP hDropInfo) {
 }
 
 void CTriangulacion3DDiscoDlg::OnOK() {
-    // Kept: a number that is refused here does not stop the list from reaching the host.
-    UpdateData(TRUE);
+    if (!UpdateData(TRUE))
+        return;
     // Kept: the caption is not that of the other messages.
     if (m_ListaHojas.GetCount() == 0)
         return Cuadros::Rechaza(*this, Cuadros::Texto(IDS_SIN_FICHEROS), L"Error");

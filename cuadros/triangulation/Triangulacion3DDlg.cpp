@@ -78,9 +78,9 @@ void CTriangulacion3DDlg::OnBnClickedMfcbuttonNone() {
 }
 
 void CTriangulacion3DDlg::OnOK() {
-    UpdateData(TRUE);
-    // Kept: the vector is not emptied first. A number that does not convert keeps the dialog open
-    // below, and the next OK appends again.
+    if (!UpdateData(TRUE))
+        return;
+    // Kept: the vector is not emptied first.
     Cuadros::AgregaSeleccion(m_ListaClasificaciones, m_Seleccion);
     CDialog::OnOK();
 }

@@ -54,7 +54,7 @@ protected:
 
 public:
     /// After IDOK: the indices of the chosen classifications, in increasing order, behind what it
-    /// held before; twice after a number that was refused first.
+    /// held before.
     std::vector<int> m_Seleccion;
     /// After IDOK: whether the check box was ticked, 0 or 1.
     int m_Casilla = 0;

@@ -168,8 +168,8 @@ void CTriangulacionDlg::OnNingunoRups() {
 }
 
 void CTriangulacionDlg::OnOK() {
-    // Kept: a number that does not convert is checked as it was before, and refused again below.
-    UpdateData(TRUE);
+    if (!UpdateData(TRUE))
+        return;
     const CDigiTab codigos = Seleccionados(m_ListaCodigos, m_pData->m_Codigos);
     // Kept: also of a list that is disabled, since breaklines are not used.
     const CDigiTab rupturas = Seleccionados(m_ListaRupturas, m_pData->m_CodigosRuptura);
@@ -184,8 +184,7 @@ void CTriangulacionDlg::OnOK() {
     if (m_pData->m_Nombre.IsEmpty())
         return Cuadros::Rechaza(*this, IDS_TEXTO_OBLIGATORIO);
 
-    // Kept: a code that was not selected is gone from the host's table, also when a number that
-    // does not convert keeps the dialog open.
+    // Kept: a code that was not selected is gone from the host's table.
     m_pData->m_Codigos = codigos;
     m_pData->m_CodigosRuptura = rupturas;
     m_pData->m_CodigosExtra1.clear();

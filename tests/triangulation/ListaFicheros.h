@@ -563,30 +563,43 @@ TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedAtRemovingAndThenReplaced) {
     });
 }
 
-TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame) {
+TYPED_TEST_P(ListaFicheros, BadNumberIsRefusedOnceByOkWhichWritesNothing) {
     this->ficheros = {L"C:\\before.xyz"};
     this->valor = 4;
-    const auto resultado =
-        this->Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
-            dialogo.drop({L"C:\\a.xyz"});
-            dialogo.type(Valor, L"four");
-            dialogo.press(IDOK);
-            EXPECT_EQ(dialogo.focus(), Valor);
-            EXPECT_EQ(dialogo.text(Valor), L"four");
-            dialogo.press(IDCANCEL);
-        });
+    const auto resultado = this->Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.drop({L"C:\\a.xyz", L"C:\\b.xyz"});
+        dialogo.listBox(Hojas).choose({0});
+        dialogo.type(Valor, L"four");
+        dialogo.press(IDOK);
+        EXPECT_EQ(dialogo.focus(), Valor);
+        EXPECT_EQ(dialogo.text(Valor), L"four");
+        EXPECT_EQ(dialogo.listBox(Hojas).selected(), Filas{0});
+        dialogo.press(IDCANCEL);
+    });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(this->valor, 4);
-    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\a.xyz"});
+    EXPECT_EQ(ComoTextos(this->ficheros), Textos{L"C:\\before.xyz"});
+}
+
+TYPED_TEST_P(ListaFicheros, OkAfterABadNumberTakesEachFileOnce) {
+    const auto resultado = this->Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.drop(CincoFicheros);
+        dialogo.type(Valor, L"four");
+        dialogo.press(IDOK);
+        dialogo.type(Valor, L"4");
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
+    EXPECT_EQ(this->valor, 4);
+    EXPECT_EQ(ComoTextos(this->ficheros), CincoFicheros);
 }
 
 TYPED_TEST_P(ListaFicheros, BadNumberComesBeforeTheEmptyList) {
-    const auto resultado =
-        this->Abre({AFX_IDP_PARSE_REAL, TypeParam::SinFicheros()}, [](kit::Dialog& dialogo) {
-            dialogo.type(Valor, L"four");
-            dialogo.command(IDOK);
-            dialogo.press(IDCANCEL);
-        });
+    const auto resultado = this->Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"four");
+        dialogo.command(IDOK);
+        dialogo.press(IDCANCEL);
+    });
     EXPECT_EQ(resultado, IDCANCEL);
 }
 
@@ -676,7 +689,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     CancelKeepsTheHostsListAndAnUntouchedNumber, CancelKeepsTheNumberThatRemovingExchanged,
     HostSeesEachExchangeAsItIsDocumented, BadNumberIsRefusedAtAddingAndThenReplaced,
     BadNumberIsRefusedAtRemovingAndThenReplaced,
-    BadNumberIsRefusedTwiceByOkWhichReplacesTheHostsListAllTheSame,
+    BadNumberIsRefusedOnceByOkWhichWritesNothing, OkAfterABadNumberTakesEachFileOnce,
     BadNumberComesBeforeTheEmptyList, KeysSelectFilesAndRemoveThem, HostCallsTheHandlersItself,
     KeepsItsMembersInTheDeclaredOrder);
 

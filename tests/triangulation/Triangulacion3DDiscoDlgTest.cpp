@@ -107,7 +107,7 @@ TEST_F(Triangulacion3DDiscoDlg, RefusedOkThenCancelKeepsTheChoiceThatOkExchanged
 }
 
 TEST_F(Triangulacion3DDiscoDlg, BadNumberAtOkThenCancelKeepsTheChoiceOfBefore) {
-    const auto resultado = Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.drop(CincoFicheros);
         dialogo.click(Opcion2);
         dialogo.type(Valor, L"x");

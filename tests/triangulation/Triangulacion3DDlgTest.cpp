@@ -64,9 +64,14 @@ TEST_F(Triangulacion3DDlg, OkWithoutASelectionLeavesTheNumberAndTheOptionToo) {
     EXPECT_EQ(entero, 1);
 }
 
-TEST_F(Triangulacion3DDlg, ResultOfOksOwnExchangeIsNotLookedAt) {
+TEST_F(Triangulacion3DDlg, OkStopsWhereItsOwnExchangeIsRefused) {
     const auto dlg = Crea<CDesconfiado<CTriangulacion3DDlg>>();
-    EXPECT_EQ(Abre(*dlg, [](kit::Dialog& dialogo) { dialogo.press(IDOK); }), IDOK);
+    const auto resultado = Abre(*dlg, [&](kit::Dialog& dialogo) {
+        dialogo.press(IDOK);
+        EXPECT_EQ(dlg->m_Seleccion, Filas{});
+        dialogo.press(IDOK);
+    });
+    EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(dlg->m_Seleccion, Filas{0});
 }
 
@@ -114,42 +119,40 @@ TEST_F(Triangulacion3DDlg, CancelForgetsWhatWasTyped) {
     EXPECT_EQ(entero, 0);
 }
 
-TEST_F(Triangulacion3DDlg, BadNumberIsRefusedTwiceAndTheSelectionIsAppendedAgain) {
+TEST_F(Triangulacion3DDlg, BadNumberIsRefusedOnceAndTheSelectionIsTakenByTheOkThatSucceeds) {
     const auto dlg = Crea();
-    const auto resultado =
-        Abre(*dlg, {AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
-            dialogo.list(Lista).choose({0, 2});
-            dialogo.type(Valor, L"2,5");
-            dialogo.click(Entero);
-            dialogo.click(Casilla);
-            dialogo.press(IDOK);
-            // The number is exchanged first: neither box is read.
-            EXPECT_EQ(dlg->m_Casilla, 1);
-            EXPECT_EQ(dialogo.focus(), Valor);
-            EXPECT_EQ(dialogo.text(Valor), L"2,5");
-            EXPECT_EQ(valor, 2.5);
-            EXPECT_EQ(entero, 0);
-            EXPECT_EQ(dlg->m_Seleccion, (Filas{0, 2}));
-            dialogo.type(Valor, L"3.5");
-            dialogo.press(IDOK);
-        });
+    const auto resultado = Abre(*dlg, {AFX_IDP_PARSE_REAL}, [&](kit::Dialog& dialogo) {
+        dialogo.list(Lista).choose({0, 2});
+        dialogo.type(Valor, L"2,5");
+        dialogo.click(Entero);
+        dialogo.click(Casilla);
+        dialogo.press(IDOK);
+        // The number is exchanged first: neither box is read.
+        EXPECT_EQ(dlg->m_Casilla, 1);
+        EXPECT_EQ(dialogo.focus(), Valor);
+        EXPECT_EQ(dialogo.text(Valor), L"2,5");
+        EXPECT_EQ(valor, 2.5);
+        EXPECT_EQ(entero, 0);
+        EXPECT_EQ(dlg->m_Seleccion, Filas{});
+        dialogo.type(Valor, L"3.5");
+        dialogo.press(IDOK);
+    });
     EXPECT_EQ(resultado, IDOK);
     EXPECT_EQ(valor, 3.5);
     EXPECT_EQ(entero, 1);
-    EXPECT_EQ(dlg->m_Seleccion, (Filas{0, 2, 0, 2}));
+    EXPECT_EQ(dlg->m_Seleccion, (Filas{0, 2}));
 }
 
-TEST_F(Triangulacion3DDlg, CancelAfterABadNumberKeepsTheAppendedSelection) {
+TEST_F(Triangulacion3DDlg, CancelAfterABadNumberTakesNoSelection) {
     const auto dlg = Crea();
-    const auto resultado =
-        Abre(*dlg, {AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
-            dialogo.type(Valor, L"");
-            dialogo.press(IDOK);
-            dialogo.press(IDCANCEL);
-        });
+    const auto resultado = Abre(*dlg, {AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(Valor, L"");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(valor, 2.5);
-    EXPECT_EQ(dlg->m_Seleccion, Filas{0});
+    EXPECT_EQ(dlg->m_Seleccion, Filas{});
 }
 
 /// Shows the members that a derived class sees.

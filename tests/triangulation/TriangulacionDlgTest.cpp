@@ -642,9 +642,10 @@ TEST_F(TriangulacionDlg, CancelKeepsTheBreaklinesOfTheLastSelection) {
 
 // Texts that are no numbers.
 
-TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
-    const auto resultado = Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+TEST_F(TriangulacionDlg, BadNumberIsRefusedOnceByOkWhichWritesNoTable) {
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
         dialogo.list(Codigos).choose({0, 2});
+        dialogo.list(Rupturas).choose({1});
         dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"low");
         dialogo.type(IDC_TRIANGULACION_NOMBRE, L"Typed");
         dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"7");
@@ -658,30 +659,26 @@ TEST_F(TriangulacionDlg, BadNumberIsRefusedTwiceByOk) {
     EXPECT_EQ(data.m_Nombre, L"Typed");
     EXPECT_EQ(data.m_LimiteInferior, 10);
     EXPECT_EQ(data.m_ParametroExtra, -2.25);
-    // The checks passed on the values of before, so that the tables are trimmed all the same.
-    EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR"}));
+    // The tables are as the last change of the codes left them.
+    EXPECT_EQ(CodigosDe(data.m_Codigos), CuatroCodigos);
     EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR"}));
-    EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Ninguno);
-    EXPECT_EQ(CodigosDe(data.m_CodigosExtra2), Ninguno);
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra1), Textos{L"X1"});
+    EXPECT_EQ(CodigosDe(data.m_CodigosExtra2), Textos{L"X2"});
 }
 
-TEST_F(TriangulacionDlg, OkAfterABadNumberTakesTheOldRowsOfTheTrimmedTable) {
-    const auto resultado =
-        Abre({AFX_IDP_PARSE_REAL, AFX_IDP_PARSE_REAL}, [this](kit::Dialog& dialogo) {
-            dialogo.list(Codigos).choose({0, 2});
-            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"low");
-            dialogo.press(IDOK);
-            EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"RD", L"TR"}));
-            EXPECT_EQ(dialogo.list(Codigos).column(0), CuatroCodigos);
-            EXPECT_EQ(dialogo.list(Codigos).selected(), (Filas{0, 2}));
-            dialogo.type(IDC_TRIANGULACION_LIMITE_INFERIOR, L"11");
-            dialogo.press(IDOK);
-        });
+TEST_F(TriangulacionDlg, OkAfterABadNumberTakesTheSelectedCodes) {
+    data.m_Codigos = Tabla({{L"B", L"Bank"}, {L"A", L"Axis"}, {L"C", L"Crest"}, {L"D", L"Ditch"}});
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.list(Codigos).select(1, false);
+        dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"abc");
+        dialogo.press(IDOK);
+        dialogo.type(IDC_TRIANGULACION_PARAMETRO_EXTRA, L"11");
+        dialogo.press(IDOK);
+    });
     EXPECT_EQ(resultado, IDOK);
-    EXPECT_EQ(data.m_LimiteInferior, 11);
-    // The third row is beyond the two entries that the first OK left.
-    EXPECT_EQ(CodigosDe(data.m_Codigos), Textos{L"RD"});
-    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"RD", L"TR"}));
+    EXPECT_EQ(data.m_ParametroExtra, 11);
+    EXPECT_EQ(CodigosDe(data.m_Codigos), (Textos{L"B", L"C", L"D"}));
+    EXPECT_EQ(CodigosDe(data.m_CodigosRuptura), (Textos{L"B", L"C", L"D"}));
 }
 
 TEST_F(TriangulacionDlg, NumberOfTheRecordThatIsNotFiniteIsRefusedByEachExchangeOfTheOpening) {
@@ -700,14 +697,14 @@ TEST_F(TriangulacionDlg, NumberOfTheRecordThatIsNotFiniteIsRefusedByEachExchange
     EXPECT_EQ(data.m_LimiteSuperior, 300);
 }
 
-TEST_F(TriangulacionDlg, BadNumberIsFollowedByTheChecksOfTheValuesBefore) {
+TEST_F(TriangulacionDlg, BadNumberComesBeforeTheChecks) {
     data.m_DistanciaNoUnir = 0;
-    const auto resultado =
-        Abre({AFX_IDP_PARSE_REAL, IDS_VALOR_NO_POSITIVO}, [](kit::Dialog& dialogo) {
-            dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"5 m");
-            dialogo.press(IDOK);
-            dialogo.press(IDCANCEL);
-        });
+    data.m_Nombre.Empty();
+    const auto resultado = Abre({AFX_IDP_PARSE_REAL}, [](kit::Dialog& dialogo) {
+        dialogo.type(IDC_TRIANGULACION_DISTANCIA_NO_UNIR, L"5 m");
+        dialogo.press(IDOK);
+        dialogo.press(IDCANCEL);
+    });
     EXPECT_EQ(resultado, IDCANCEL);
     EXPECT_EQ(data.m_DistanciaNoUnir, 0);
 }

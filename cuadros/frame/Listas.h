@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 namespace Cuadros {
@@ -24,6 +25,12 @@ void PreparaLista(CListCtrl& lista, std::initializer_list<Columna> columnas);
 /// @return the index that the row has in the list.
 int InsertaFila(CListCtrl& lista, int indice, const CString& texto);
 
+/// The texts of a row in a list of two columns.
+using Fila = std::pair<CString, CString>;
+
+/// Inserts a row with its two texts; the first one is cut like that of any row.
+void InsertaFila(CListCtrl& lista, int indice, const Fila& fila);
+
 /// While one of these lives its list is not drawn: a list that draws itself takes far longer to
 /// fill. For a list that is shown, one at a time.
 class ListaSinDibujar {
@@ -37,20 +44,34 @@ private:
     CWnd& m_Lista;
 };
 
+/// Shows these rows and no others, as if the list were emptied and filled anew: none with the
+/// focus, each one selected but those of `salvo`. Where nobody has touched or scrolled the list
+/// since, only the rows that differ are taken out and put in: a table that grows to n rows, row by
+/// row, costs n rows and not their square.
+///
+/// @param mostradas what the list was given the last time, empty before the first; afterwards
+///                  `filas`. Nobody else may put rows or texts into the list.
+/// @param salvo     indices into `filas`, in increasing order: one that is not has no effect, nor
+///                  have those after it.
+void CambiaFilas(CListCtrl& lista, std::vector<Fila>& mostradas, std::vector<Fila> filas,
+                 const std::vector<unsigned int>& salvo);
+
 /// Selects every one of the first `filas` rows of a list, or none of them, row by row.
 void SeleccionaFilas(CListCtrl& lista, unsigned int filas, bool seleccionadas);
 
 /// Whether a list has a selected row.
 bool HaySeleccion(const CListCtrl& lista);
 
+/// The selected rows of a list, in increasing order.
+std::vector<unsigned int> FilasSeleccionadas(const CListCtrl& lista);
+
 /// Calls `visita(i)` for each selected row i of a list below `filas`, in increasing order.
 template <class Visita>
 void RecorreSeleccion(const CListCtrl& lista, unsigned int filas, Visita visita) {
-    for (int i = lista.GetNextItem(-1, LVNI_SELECTED); i >= 0;
-         i = lista.GetNextItem(i, LVNI_SELECTED)) {
-        if (static_cast<unsigned int>(i) >= filas)
+    for (const unsigned int i : FilasSeleccionadas(lista)) {
+        if (i >= filas)
             return;
-        visita(static_cast<unsigned int>(i));
+        visita(i);
     }
 }
 

@@ -18,12 +18,12 @@ void PreparaListaCodigos(CListCtrl& lista) {
                                   {IDS_COLUMNA_NEMOTECNICO, LVCFMT_LEFT, 230}});
 }
 
-void Rellena(CListCtrl& lista, const CDigiTab& tabla) {
-    for (unsigned int i = 0; i < tabla.Cantidad(); ++i) {
-        const int fila = static_cast<int>(i);
-        Cuadros::InsertaFila(lista, fila, tabla[i].GetCodigo());
-        lista.SetItemText(fila, 1, tabla[i].GetNemotecnico());
-    }
+std::vector<Cuadros::Fila> FilasDe(const CDigiTab& tabla) {
+    std::vector<Cuadros::Fila> filas;
+    filas.reserve(tabla.Cantidad());
+    for (unsigned int i = 0; i < tabla.Cantidad(); ++i)
+        filas.emplace_back(tabla[i].GetCodigo(), tabla[i].GetNemotecnico());
+    return filas;
 }
 
 CDigiTab Seleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
@@ -33,10 +33,19 @@ CDigiTab Seleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
     return elegidos;
 }
 
+void Rellena(CListCtrl& lista, const CDigiTab& tabla) {
+    int indice = 0;
+    for (const Cuadros::Fila& fila : FilasDe(tabla))
+        Cuadros::InsertaFila(lista, indice++, fila);
+}
+
 /// Table indices of the rows that the user has deselected, in increasing order.
 std::vector<unsigned int> Deseleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
     std::vector<unsigned int> indices;
-    for (int fila = 0; fila < lista.GetItemCount(); ++fila) {
+    const int filas = lista.GetItemCount();
+    if (lista.GetSelectedCount() == static_cast<UINT>(filas))
+        return indices; // as nearly always: no row has to be asked
+    for (int fila = 0; fila < filas; ++fila) {
         // Kept: the complement of the bit is never the answer, so that no row is found deselected
         // and every one is selected again after a rebuild.
         if (lista.GetItemState(fila, LVIS_SELECTED) != ~UINT{LVIS_SELECTED})
@@ -117,19 +126,8 @@ void CTriangulacionDlg::OnItemchangedListaCodigos(NMHDR* /*pNMHDR*/, LRESULT* pR
 void CTriangulacionDlg::ActualizaRupturas() {
     UpdateData(TRUE);
     const CDigiTab& rupturas = m_pData->m_CodigosRuptura;
-    const std::vector<unsigned int> deseleccionados = Deseleccionados(m_ListaRupturas, rupturas);
-    {
-        const Cuadros::ListaSinDibujar quieta(m_ListaRupturas);
-        m_ListaRupturas.DeleteAllItems();
-        Rellena(m_ListaRupturas, rupturas);
-        auto siguiente = deseleccionados.begin();
-        for (unsigned int i = 0; i < rupturas.Cantidad(); ++i) {
-            if (siguiente != deseleccionados.end() && *siguiente == i)
-                ++siguiente;
-            else
-                m_ListaRupturas.SetItemState(static_cast<int>(i), LVIS_SELECTED, LVIS_SELECTED);
-        }
-    }
+    Cuadros::CambiaFilas(m_ListaRupturas, m_RupturasMostradas, FilasDe(rupturas),
+                         Deseleccionados(m_ListaRupturas, rupturas));
     UpdateData(FALSE);
 }
 

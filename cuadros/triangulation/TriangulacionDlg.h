@@ -2,6 +2,9 @@
 
 #include <afxwin.h>
 
+#include <utility>
+#include <vector>
+
 #include <cotana/comun_ui/ListaControlMFC.h>
 #include <cotana/triangulacion/DataTriangulacion.h>
 
@@ -53,6 +56,9 @@ protected:
 
 private:
     void HabilitaAceptar();
+
+    /// Code and mnemonic of each row of `m_ListaRupturas`.
+    std::vector<std::pair<CString, CString>> m_RupturasMostradas;
 };
 
 } // namespace Cotana

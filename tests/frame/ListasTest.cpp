@@ -5,6 +5,8 @@
 #include "checks/Escucha.h"
 #include "kit/kit.h"
 
+#include <cwctype>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -210,6 +212,166 @@ TEST(Listas, AreDrawnAgainOnceTheyAreFilled) {
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
 }
 
+// Of a control that does not see to it itself when its drawing is switched on.
+TEST(Listas, AreDrawnAgainByWhoFilledThem) {
+    CDialogoPrueba dialogo([](CDialogoPrueba&) {});
+    dialogo.AlAceptar([](CDialogoPrueba& prueba) {
+        CListCtrl& lista = prueba.m_Lista;
+        const Escucha escucha(lista.m_hWnd, [](UINT mensaje, WPARAM, LPARAM) {
+            return mensaje == WM_SETREDRAW ? std::optional<LRESULT>(0) : std::nullopt;
+        });
+        lista.UpdateWindow();
+        EXPECT_FALSE(lista.GetUpdateRect(nullptr));
+        { const Cuadros::ListaSinDibujar quieta(lista); }
+        CRect porDibujar;
+        EXPECT_TRUE(lista.GetUpdateRect(&porDibujar));
+        CRect todo;
+        lista.GetClientRect(&todo);
+        EXPECT_EQ(porDibujar, todo);
+        EXPECT_TRUE(lista.GetUpdateRect(nullptr));
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) {
+        vista.press(IDOK);
+        vista.press(IDCANCEL);
+    });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, RowHasBothItsTexts) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 1);
+        Cuadros::InsertaFila(prueba.m_Lista, 1, Cuadros::Fila(CString(L'x', 260), L"second"));
+        EXPECT_EQ(prueba.m_Lista.GetItemText(1, 0), CString(L'x', 259));
+        EXPECT_EQ(prueba.m_Lista.GetItemText(1, 1), L"second");
+        EXPECT_EQ(prueba.m_Lista.GetItemState(1, LVIS_STATEIMAGEMASK), 0x1000U);
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+namespace {
+
+/// Rows whose texts are these letters.
+std::vector<Cuadros::Fila> FilasCon(const std::wstring& letras) {
+    std::vector<Cuadros::Fila> filas;
+    for (const wchar_t letra : letras)
+        filas.emplace_back(CString(letra, 1), CString(letra, 2));
+    return filas;
+}
+
+/// The letters of the rows that a list shows; of a deselected one a small letter.
+std::wstring LetrasDe(const CListCtrl& lista) {
+    std::wstring letras;
+    for (int i = 0; i < lista.GetItemCount(); ++i) {
+        const wchar_t letra = lista.GetItemText(i, 0)[0];
+        EXPECT_EQ(lista.GetItemText(i, 1), CString(letra, 2));
+        letras += lista.GetItemState(i, LVIS_SELECTED) != 0 ? letra : std::towlower(letra);
+    }
+    return letras;
+}
+
+/// Counts the rows that are put into a list and taken out of it.
+class CuentaFilas : public Escucha {
+public:
+    explicit CuentaFilas(CWnd& lista)
+        : Escucha(lista.m_hWnd, [this](UINT mensaje, WPARAM, LPARAM) -> std::optional<LRESULT> {
+              puestas += mensaje == LVM_INSERTITEM;
+              quitadas += mensaje == LVM_DELETEITEM;
+              vaciados += mensaje == LVM_DELETEALLITEMS;
+              return std::nullopt;
+          }) {}
+
+    int puestas = 0;
+    int quitadas = 0;
+    int vaciados = 0;
+};
+
+} // namespace
+
+TEST(Listas, OnlyRowsThatDifferAreChanged) {
+    const struct {
+        const wchar_t* antes;
+        const wchar_t* despues;
+        int quitadas;
+        int puestas;
+    } casos[] = {
+        {L"", L"", 0, 0},          {L"", L"ABC", 0, 3},       {L"ABC", L"", 3, 0},
+        {L"ABC", L"ABC", 0, 0},    {L"ABC", L"ABCD", 0, 1},   {L"ABC", L"ZABC", 0, 1},
+        {L"ABC", L"ABZC", 0, 1},   {L"ABC", L"AC", 1, 0},     {L"ABC", L"BC", 1, 0},
+        {L"ABC", L"AB", 1, 0},     {L"ABC", L"AZC", 1, 1},    {L"AAA", L"AA", 1, 0},
+        {L"AA", L"AAA", 0, 1},     {L"ABAB", L"AB", 2, 0},    {L"ABC", L"CBA", 3, 3},
+        {L"ABCDE", L"AXYE", 3, 2}, {L"ABC", L"ABCABC", 0, 3},
+    };
+    CDialogoPrueba dialogo([&](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 0);
+        for (const auto& caso : casos) {
+            prueba.m_Lista.DeleteAllItems();
+            std::vector<Cuadros::Fila> mostradas;
+            Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(caso.antes), {});
+            EXPECT_EQ(LetrasDe(prueba.m_Lista), caso.antes);
+            const CuentaFilas cuenta(prueba.m_Lista);
+            Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(caso.despues), {});
+            EXPECT_EQ(LetrasDe(prueba.m_Lista), caso.despues);
+            EXPECT_EQ(mostradas, FilasCon(caso.despues));
+            EXPECT_EQ(cuenta.quitadas, caso.quitadas) << caso.antes << " " << caso.despues;
+            EXPECT_EQ(cuenta.puestas, caso.puestas) << caso.antes << " " << caso.despues;
+            EXPECT_EQ(cuenta.vaciados, 0);
+        }
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+TEST(Listas, RowsLeftOutStayDeselectedUntilTheNextChange) {
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, 0);
+        std::vector<Cuadros::Fila> mostradas;
+        Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {1, 3});
+        EXPECT_EQ(LetrasDe(prueba.m_Lista), L"AbCd");
+        Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {0});
+        EXPECT_EQ(LetrasDe(prueba.m_Lista), L"aBCD");
+        Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {2, 1, 3});
+        EXPECT_EQ(LetrasDe(prueba.m_Lista), L"ABcD");
+        Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {});
+        EXPECT_EQ(LetrasDe(prueba.m_Lista), L"ABCD");
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+// What the user did to the list is gone, as it would be in one that is filled anew.
+TEST(Listas, TouchedListIsFilledAnew) {
+    using Toque = void (*)(CListCtrl&);
+    const Toque toques[] = {
+        [](CListCtrl& lista) { lista.SetItemState(1, 0, LVIS_SELECTED); },
+        [](CListCtrl& lista) { lista.SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED); },
+        [](CListCtrl& lista) { lista.SetSelectionMark(1); },
+        [](CListCtrl& lista) { lista.DeleteItem(5); },
+        [](CListCtrl& lista) { lista.EnsureVisible(39, FALSE); },
+    };
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 0); });
+    dialogo.AlAceptar([&](CDialogoPrueba& prueba) {
+        CListCtrl& lista = prueba.m_Lista;
+        std::vector<Cuadros::Fila> mostradas;
+        const std::wstring letras(40, L'M');
+        Cuadros::CambiaFilas(lista, mostradas, FilasCon(letras), {});
+        for (const Toque toque : toques) {
+            toque(lista);
+            const CuentaFilas cuenta(lista);
+            Cuadros::CambiaFilas(lista, mostradas, FilasCon(letras), {});
+            EXPECT_EQ(cuenta.vaciados, 1);
+            EXPECT_EQ(LetrasDe(lista), letras);
+            EXPECT_EQ(lista.GetNextItem(-1, LVNI_FOCUSED), -1);
+            EXPECT_EQ(lista.GetSelectionMark(), -1);
+        }
+        prueba.EndDialog(IDCANCEL);
+    });
+    kit::Script script;
+    script.onDialog([](kit::Dialog& vista) { vista.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
 TEST(Listas, AllOrNoneOfTheRowsAreSelected) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         AbreConFilas(prueba, 4);
@@ -253,6 +415,8 @@ TEST(Listas, SelectionIsWalkedInTheOrderOfTheRows) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 5); });
     dialogo.AlAceptar([](CDialogoPrueba& prueba) {
         EXPECT_EQ(Recorridas(prueba.m_Lista, 5), (std::vector<unsigned int>{0, 2, 4}));
+        const std::vector<unsigned int> salteadas = {0, 2, 4};
+        EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), salteadas);
         // Of a shorter table only the entries that it has.
         EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{0, 2}));
         EXPECT_EQ(Recorridas(prueba.m_Lista, 0), (std::vector<unsigned int>{}));
@@ -264,4 +428,33 @@ TEST(Listas, SelectionIsWalkedInTheOrderOfTheRows) {
         vista.press(IDCANCEL);
     });
     EXPECT_EQ(script.run([&] { return dialogo.DoModal(); }), IDCANCEL);
+}
+
+TEST(Listas, SelectionMayBeAnyRows) {
+    constexpr int filas = 6;
+    CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
+        AbreConFilas(prueba, filas);
+        for (unsigned int bits = 0; bits < 1U << filas; ++bits) {
+            std::vector<unsigned int> elegidas;
+            for (int i = 0; i < filas; ++i) {
+                const bool elegida = (bits >> i & 1U) != 0;
+                prueba.m_Lista.SetItemState(i, elegida ? LVIS_SELECTED : 0U, LVIS_SELECTED);
+                if (elegida)
+                    elegidas.push_back(static_cast<unsigned int>(i));
+            }
+            EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), elegidas);
+        }
+        prueba.EndDialog(IDCANCEL);
+    });
+    EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
+}
+
+// As of a control that the dialog lacks.
+TEST(Listas, WithoutAWindowNothingIsSelected) {
+    CListCtrl ninguna;
+    EXPECT_TRUE(Cuadros::FilasSeleccionadas(ninguna).empty());
+    EXPECT_TRUE(Recorridas(ninguna, 5).empty());
+    std::vector<Cuadros::Fila> mostradas;
+    Cuadros::CambiaFilas(ninguna, mostradas, FilasCon(L"AB"), {});
+    EXPECT_EQ(mostradas, FilasCon(L"AB"));
 }

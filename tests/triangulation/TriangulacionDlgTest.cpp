@@ -317,14 +317,16 @@ TEST_F(TriangulacionDlg, FocusedCodeSelectsEveryBreaklineAgain) {
     });
 }
 
-/// For its life the list of breaklines says of these rows, asked whether they are selected, the
-/// complement of the bit: what only a list with a procedure of its own says.
+/// For its life the list of breaklines counts no row as selected, and says of these rows, asked
+/// whether they are, the complement of the bit: what only a list with a procedure of its own says.
 class ConComplemento : public Escucha {
 public:
     ConComplemento(kit::Dialog& dialogo, std::set<WPARAM> filas)
         : Escucha(dialogo.control(Rupturas),
                   [filas = std::move(filas)](UINT mensaje, WPARAM fila,
                                              LPARAM mascara) -> std::optional<LRESULT> {
+                      if (mensaje == LVM_GETSELECTEDCOUNT)
+                          return LRESULT{0};
                       if (mensaje == LVM_GETITEMSTATE && mascara == LVIS_SELECTED &&
                           filas.contains(fila))
                           return LRESULT{0xFFFFFFFD};

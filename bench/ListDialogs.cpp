@@ -1,6 +1,7 @@
 // The dialogs whose lists grow long: classifications to choose from, files dropped.
 #include <shlobj.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -87,8 +88,26 @@ INT_PTR CALLBACK takeDrop(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     return FALSE; // and the default processing
 }
 
-void measureDrop(Bench& bench) {
+/// Takes the files out of a list, each one selected alone as it is taken.
+std::vector<std::wstring> filesOf(HWND list) {
+    std::vector<std::wstring> files;
+    raw::setRedraw(list, false);
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        const auto row = static_cast<WPARAM>(i);
+        SendMessageW(list, LB_SETSEL, FALSE, -1);
+        SendMessageW(list, LB_SETSEL, TRUE, i);
+        std::wstring& file = files.emplace_back();
+        file.resize(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, row, 0)));
+        SendMessageW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(file.data()));
+    }
+    raw::setRedraw(list, true);
+    return files;
+}
+
+void measureFiles(Bench& bench) {
     std::vector<CString> files;
+    std::vector<std::wstring> filesByHand;
     double value = 0;
     int option = 0;
     Cotana::CTriangulacion3DDiscoDlg dialog(files, nullptr, value, option);
@@ -96,9 +115,9 @@ void measureDrop(Bench& bench) {
     const HWND byHand = CreateDialogIndirectParamW(
         textModule(), raw::findTemplate(textModule(), IDD_TRIANGULACION_3D_DISCO),
         bench.desk.window(), takeDrop, 0);
-    const auto dropOnto = [](HWND target) {
+    const auto dropOnto = [](HWND target, int number) {
         SendDlgItemMessageW(target, IDC_TRIANGULACION_3D_DISCO_HOJAS, LB_RESETCONTENT, 0, 0);
-        const HGLOBAL drop = dropOf(rows);
+        const HGLOBAL drop = dropOf(number);
         const double time =
             timeOf([&] { SendMessageW(target, WM_DROPFILES, reinterpret_cast<WPARAM>(drop), 0); });
         GlobalFree(drop); // nobody else does
@@ -106,13 +125,30 @@ void measureDrop(Bench& bench) {
     };
     bench.report.add("Drop: " + std::to_string(rows) + " files",
                      compare(
-                         bench.cycles, [&] { return dropOnto(dialog.m_hWnd); },
-                         [&] { return dropOnto(byHand); }),
+                         bench.cycles, [&] { return dropOnto(dialog.m_hWnd, rows); },
+                         [&] { return dropOnto(byHand, rows); }),
                      1.10);
     for (const HWND target : {dialog.m_hWnd, byHand})
         if (SendDlgItemMessageW(target, IDC_TRIANGULACION_3D_DISCO_HOJAS, LB_GETCOUNT, 0, 0) !=
             rows)
             bench.fail("the dropped files are not in the list");
+
+    const HWND listByHand = GetDlgItem(byHand, IDC_TRIANGULACION_3D_DISCO_HOJAS);
+    const auto acceptAgain = [&] {
+        return compare(
+            std::max(1, bench.cycles / 20), [&] { return timeOf([&] { dialog.OnOK(); }); },
+            [&] { return timeOf([&] { filesByHand = filesOf(listByHand); }); });
+    };
+    bench.report.add("OK: " + std::to_string(rows) + " files", acceptAgain(), 1.10);
+    constexpr int many = 5 * rows;
+    dropOnto(dialog.m_hWnd, many);
+    dropOnto(byHand, many);
+    constexpr double halfASecond = 500'000;
+    bench.report.addBounded("OK: " + std::to_string(many) + " files", acceptAgain(), halfASecond);
+    if (!std::ranges::equal(files, filesByHand, [](const CString& one, const std::wstring& other) {
+            return one == other.c_str();
+        }))
+        bench.fail("the two lists do not leave the same files");
     dialog.DestroyWindow();
     DestroyWindow(byHand);
 }
@@ -121,7 +157,7 @@ void measureDrop(Bench& bench) {
 
 void measureListDialogs(Bench& bench) {
     measureClassifications(bench);
-    measureDrop(bench);
+    measureFiles(bench);
 }
 
 } // namespace bench

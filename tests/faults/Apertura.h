@@ -1,0 +1,40 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <functional>
+
+/// Opens a dialog and does something in it, whatever else comes: a message box, a sub-dialog and
+/// the like are dismissed. For conversations of which only the end is known.
+class Apertura {
+public:
+    using Paso = std::function<void(HWND)>;
+
+    explicit Apertura(CDialog& dialogo);
+    ~Apertura();
+    Apertura(const Apertura&) = delete;
+    Apertura& operator=(const Apertura&) = delete;
+
+    /// What is done when the first other window is there, before it is dismissed.
+    std::function<void()> alPrimerAviso;
+
+    /// Runs the dialog, and `paso` in it once it is shown. One that is open afterwards is
+    /// cancelled.
+    ///
+    /// @return what `DoModal` returns.
+    INT_PTR Ejecuta(Paso paso);
+
+private:
+    static void CALLBACK Turno(HWND, UINT, UINT_PTR, DWORD);
+    void Atiende(HWND activa);
+
+    CDialog& m_Dialogo;
+    Paso m_Paso;
+};
+
+/// Uses each control that a dialog has, but OK and Cancel, as a user would: clicks the buttons,
+/// types a number, selects and deselects. Ends where the dialog does.
+void UsaControles(HWND dialogo);
+
+/// Types what is no number into each edit of a dialog.
+void EscribeLetras(HWND dialogo);

@@ -37,11 +37,11 @@ bool HaySeleccion(const CListBox& lista) {
 
 void RecogeHojas(CListBox& lista, std::vector<CString>& hojas) {
     hojas.clear();
-    // Drawn, each file would scroll the list once more.
+    // A list that is drawn scrolls at each file.
     const ListaSinDibujar quieta(lista);
     const int cuantas = lista.GetCount();
     for (int i = 0; i < cuantas; ++i) {
-        // Kept: the list shows each file being taken.
+        // Kept: each file is selected as it is taken.
         lista.SetSel(-1, FALSE);
         lista.SetSel(i, TRUE);
         lista.GetText(i, hojas.emplace_back());

@@ -26,6 +26,12 @@ std::vector<Cuadros::Fila> FilasDe(const CDigiTab& tabla) {
     return filas;
 }
 
+void Rellena(CListCtrl& lista, const CDigiTab& tabla) {
+    int indice = 0;
+    for (const Cuadros::Fila& fila : FilasDe(tabla))
+        Cuadros::InsertaFila(lista, indice++, fila);
+}
+
 CDigiTab Seleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
     CDigiTab elegidos;
     Cuadros::RecorreSeleccion(lista, tabla.Cantidad(),
@@ -33,18 +39,12 @@ CDigiTab Seleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
     return elegidos;
 }
 
-void Rellena(CListCtrl& lista, const CDigiTab& tabla) {
-    int indice = 0;
-    for (const Cuadros::Fila& fila : FilasDe(tabla))
-        Cuadros::InsertaFila(lista, indice++, fila);
-}
-
 /// Table indices of the rows that the user has deselected, in increasing order.
 std::vector<unsigned int> Deseleccionados(const CListCtrl& lista, const CDigiTab& tabla) {
     std::vector<unsigned int> indices;
     const int filas = lista.GetItemCount();
     if (lista.GetSelectedCount() == static_cast<UINT>(filas))
-        return indices; // as nearly always: no row has to be asked
+        return indices; // as it nearly always is, and no row has to be asked
     for (int fila = 0; fila < filas; ++fila) {
         // Kept: the complement of the bit is never the answer, so that no row is found deselected
         // and every one is selected again after a rebuild.

@@ -24,6 +24,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -472,6 +473,34 @@ TYPED_TEST_P(ListaFicheros, OkSelectsEachFileAloneAsItIsTaken) {
     EXPECT_EQ(alFinal, Filas{2});
 }
 
+TYPED_TEST_P(ListaFicheros, OkLeavesALongListAsIfItHadBeenDrawnAtEachFile) {
+    Textos soltados;
+    for (int i = 0; i < 100; ++i)
+        soltados.push_back(L"C:\\" + std::to_wstring(i) + L".xyz");
+    auto dialogo = this->template Dialogo<typename TestFixture::Derivado>();
+    CListBox& lista = dialogo.m_ListaHojas;
+    using Estado = std::tuple<Filas, int, int>;
+    const auto estado = [&] {
+        return Estado{kit::ListBox(lista.m_hWnd).selected(), lista.GetTopIndex(),
+                      lista.GetCaretIndex()};
+    };
+    dialogo.trasAceptar = [&] {
+        const Estado tras = estado();
+        lista.SetTopIndex(0);
+        for (int i = 0; i < lista.GetCount(); ++i) {
+            lista.SetSel(-1, FALSE);
+            lista.SetSel(i, TRUE);
+        }
+        EXPECT_EQ(tras, estado());
+        EXPECT_EQ(std::get<0>(tras), Filas{99});
+        EXPECT_GT(std::get<1>(tras), 0);
+    };
+    this->Abre(dialogo, [&](kit::Dialog& abierto) {
+        abierto.drop(soltados);
+        abierto.press(IDOK);
+    });
+}
+
 TYPED_TEST_P(ListaFicheros, OkCommandWithAnEmptyListIsRefused) {
     this->ficheros = {L"C:\\before.xyz"};
     const auto resultado = this->Abre({TypeParam::SinFicheros()}, [this](kit::Dialog& dialogo) {
@@ -685,10 +714,10 @@ REGISTER_TYPED_TEST_SUITE_P(
     RemoveButtonStaysEnabledUntilTheSelectionChanges,
     AddingAndDroppingKeepTheRemoveButtonAsRemovingLeftIt, RemoveCommandOnAnEmptyListDoesNothing,
     DroppedPromptedAndRemovedFilesMakeOneList, OkReplacesTheHostsListAndWritesTheNumber,
-    OkSelectsEachFileAloneAsItIsTaken, OkCommandWithAnEmptyListIsRefused,
-    CancelKeepsTheHostsListAndAnUntouchedNumber, CancelKeepsTheNumberThatRemovingExchanged,
-    HostSeesEachExchangeAsItIsDocumented, BadNumberIsRefusedAtAddingAndThenReplaced,
-    BadNumberIsRefusedAtRemovingAndThenReplaced,
+    OkSelectsEachFileAloneAsItIsTaken, OkLeavesALongListAsIfItHadBeenDrawnAtEachFile,
+    OkCommandWithAnEmptyListIsRefused, CancelKeepsTheHostsListAndAnUntouchedNumber,
+    CancelKeepsTheNumberThatRemovingExchanged, HostSeesEachExchangeAsItIsDocumented,
+    BadNumberIsRefusedAtAddingAndThenReplaced, BadNumberIsRefusedAtRemovingAndThenReplaced,
     BadNumberIsRefusedOnceByOkWhichWritesNothing, OkAfterABadNumberTakesEachFileOnce,
     BadNumberComesBeforeTheEmptyList, KeysSelectFilesAndRemoveThem, HostCallsTheHandlersItself,
     KeepsItsMembersInTheDeclaredOrder);

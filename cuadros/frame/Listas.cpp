@@ -104,33 +104,26 @@ int PrimeraSeleccionada(const CListCtrl& lista) {
 }
 
 std::vector<int> FilasSeleccionadas(const CListCtrl& lista) {
-    std::vector<int> filas;
-    for (int i = PrimeraSeleccionada(lista); i >= 0; i = lista.GetNextItem(i, LVNI_SELECTED))
-        filas.push_back(i);
+    std::vector<int> filas(lista.GetSelectedCount());
+    if (filas.empty())
+        return filas;
+    const int primera = PrimeraSeleccionada(lista);
+    // Where none is selected behind as many rows as there are selected ones, they follow each other
+    // and need not be asked for one by one: so it is while one after the other is selected.
+    if (lista.GetNextItem(primera + static_cast<int>(filas.size()) - 1, LVNI_SELECTED) < 0) {
+        std::iota(filas.begin(), filas.end(), primera);
+        return filas;
+    }
+    int siguiente = primera;
+    for (int& fila : filas) {
+        fila = siguiente;
+        siguiente = lista.GetNextItem(siguiente, LVNI_SELECTED);
+    }
     return filas;
 }
 
 WORD TeclaPulsada(const NMHDR* notificacion) {
     return reinterpret_cast<const NMLVKEYDOWN*>(notificacion)->wVKey;
-}
-
-std::vector<unsigned int> FilasSeleccionadas(const CListCtrl& lista) {
-    std::vector<unsigned int> filas(lista.GetSelectedCount());
-    if (filas.empty())
-        return filas;
-    const int primera = lista.GetNextItem(-1, LVNI_SELECTED);
-    // Where none is selected behind as many rows as there are selected ones, they follow each other
-    // and need not be asked for one by one: so it is while one after the other is selected.
-    if (lista.GetNextItem(primera + static_cast<int>(filas.size()) - 1, LVNI_SELECTED) < 0) {
-        std::iota(filas.begin(), filas.end(), static_cast<unsigned int>(primera));
-        return filas;
-    }
-    int siguiente = primera;
-    for (unsigned int& fila : filas) {
-        fila = static_cast<unsigned int>(siguiente);
-        siguiente = lista.GetNextItem(siguiente, LVNI_SELECTED);
-    }
-    return filas;
 }
 
 } // namespace Cuadros

@@ -63,15 +63,15 @@ void SeleccionaFilas(CListCtrl& lista, unsigned int filas, bool seleccionadas);
 bool HaySeleccion(const CListCtrl& lista);
 
 /// The selected rows of a list, in increasing order.
-std::vector<unsigned int> FilasSeleccionadas(const CListCtrl& lista);
+std::vector<int> FilasSeleccionadas(const CListCtrl& lista);
 
 /// Calls `visita(i)` for each selected row i of a list below `filas`, in increasing order.
 template <class Visita>
 void RecorreSeleccion(const CListCtrl& lista, unsigned int filas, Visita visita) {
-    for (const unsigned int i : FilasSeleccionadas(lista)) {
-        if (i >= filas)
+    for (const int i : FilasSeleccionadas(lista)) {
+        if (static_cast<unsigned int>(i) >= filas)
             return;
-        visita(i);
+        visita(static_cast<unsigned int>(i));
     }
 }
 
@@ -95,9 +95,6 @@ void LlenaLista(CListCtrl& lista, std::size_t filas, Nuevo nuevo, Modifica modif
 
 /// The first selected row of a list, -1 when there is none.
 int PrimeraSeleccionada(const CListCtrl& lista);
-
-/// The selected rows of a list, in increasing order.
-std::vector<int> FilasSeleccionadas(const CListCtrl& lista);
 
 /// The key of a list's notification that one was pressed (`LVN_KEYDOWN`).
 WORD TeclaPulsada(const NMHDR* notificacion);

@@ -4,7 +4,6 @@
 #include "afxrt/handle_map.h"
 #include "afxrt/wnd.h"
 #include "module_file.h"
-#include "start_fault.h"
 #include "thread_slot.h"
 #include "thread_state.h"
 
@@ -20,27 +19,12 @@ ThreadState& CurrentThread() {
 }
 
 namespace {
-
-StartFault armedFault = StartFault::none;
-
 // Windows made under the application's state.
 LRESULT CALLBACK ApplicationWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     AFX_MANAGE_STATE(AfxGetAppModuleState());
     return AfxWndProc(window, message, wParam, lParam);
 }
-
 } // namespace
-
-bool FailsHere(StartFault step) {
-    if (armedFault != step)
-        return false;
-    armedFault = StartFault::none;
-    return true;
-}
-
-void ArmStartFault(StartFault fault) {
-    armedFault = fault;
-}
 
 } // namespace afx_internal
 
@@ -119,7 +103,7 @@ BOOL AFXAPI AfxCoreInitModule() {
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
                        int nCmdShow) {
-    if (hPrevInstance || afx_internal::FailsHere(afx_internal::StartFault::winInit))
+    if (hPrevInstance)
         return FALSE;
     AFX_MODULE_STATE* state = AfxGetModuleState();
     state->m_hCurrentInstanceHandle = hInstance;

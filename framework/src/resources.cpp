@@ -2,7 +2,6 @@
 #include "afxrt/app.h"
 #include "afxrt/module.h"
 #include "module_file.h"
-#include "start_fault.h"
 
 #include <algorithm>
 #include <vector>
@@ -84,8 +83,6 @@ int AFXAPI AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
     : m_hModule(state.hModule), m_hResource(state.hResource), m_bSystem(bSystem) {
-    if (afx_internal::FailsHere(afx_internal::StartFault::chainEntry))
-        AfxThrowMemoryException();
     std::vector<CDynLinkLibrary*>& chain = afx_internal::Chain();
     chain.insert(chain.begin(), this);
 }

@@ -6,6 +6,7 @@
 #include "cuadros/resources/IconIds.h"
 #include "cuadros/resources/StringIds.h"
 #include "cuadros/resources/TriangulationIds.h"
+#include "framework/modules/FailingStart.h"
 #include "framework/modules/ModuleFiles.h"
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
@@ -19,7 +20,6 @@
 
 namespace {
 
-using afx_internal::StartFault;
 using Cotana::CDataTriangulacion;
 using Cotana::CElementoDigiTab;
 
@@ -99,14 +99,15 @@ TEST_F(LibraryLoad, LeavesTheStateThatIsCurrent) {
 }
 
 TEST_F(LibraryLoad, ThatFailsLeavesNothingBehind) {
-    for (const StartFault fault : {StartFault::winInit, StartFault::chainEntry}) {
-        afx_internal::ArmStartFault(fault);
-        const LoadedModule failed(Library);
-        EXPECT_EQ(failed.handle(), nullptr);
-        EXPECT_EQ(failed.error(), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
-        EXPECT_EQ(AfxGetModuleState(), AfxGetAppModuleState());
-        ExpectNothingOfTheLibrary();
-
+    for (const auto step : {FailingStart::Step::winInit, FailingStart::Step::chainEntry}) {
+        {
+            const FailingStart fault(step);
+            const LoadedModule failed(Library);
+            EXPECT_EQ(failed.handle(), nullptr);
+            EXPECT_EQ(failed.error(), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
+            EXPECT_EQ(AfxGetModuleState(), AfxGetAppModuleState());
+            ExpectNothingOfTheLibrary();
+        }
         const LoadedModule library(Library);
         ExpectAllOfTheLibrary();
     }

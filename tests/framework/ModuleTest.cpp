@@ -4,18 +4,19 @@
 #include "TestApp.h"
 #include "kit/kit.h"
 #include "modules/Diary.h"
+#include "modules/FailingStart.h"
 #include "modules/ModuleFiles.h"
 #include "modules/ModuleResource.h"
 #include "modules/ProbeWindow.h"
 #include "modules/Program.h"
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 
 namespace {
 
-using afx_internal::StartFault;
 using Names = std::vector<std::string>;
 
 HINSTANCE Found(UINT id) {
@@ -124,7 +125,7 @@ namespace {
 
 struct Failure {
     const char* name;
-    StartFault fault;
+    std::optional<FailingStart::Step> step;
     const wchar_t* refusal; // how InitInstance refuses: it returns FALSE, or throws
     Names expected;         // between the making of the static objects and their end
 };
@@ -136,30 +137,37 @@ void PrintTo(const Failure& failure, std::ostream* out) {
 class FailingLoad : public ModuleTest, public testing::WithParamInterface<Failure> {
 protected:
     void TearDown() override {
-        afx_internal::ArmStartFault(StartFault::none);
-        ::SetEnvironmentVariable(L"PROBE_REFUSES", nullptr);
+        Disarm();
         ModuleTest::TearDown();
     }
-    static void Arm() {
-        afx_internal::ArmStartFault(GetParam().fault);
+    void Arm() {
+        if (GetParam().step)
+            m_fault.emplace(*GetParam().step);
         ::SetEnvironmentVariable(L"PROBE_REFUSES", GetParam().refusal);
     }
+    void Disarm() {
+        m_fault.reset();
+        ::SetEnvironmentVariable(L"PROBE_REFUSES", nullptr);
+    }
+
+private:
+    std::optional<FailingStart> m_fault;
 };
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(
     AtEachStep, FailingLoad,
     testing::Values(
-        Failure{"AfxWinInit", StartFault::winInit, nullptr,
+        Failure{"AfxWinInit", FailingStart::Step::winInit, nullptr,
                 {"AfxCoreInitModule", "AfxWinInit", "AfxWinTerm"}},
-        Failure{"InitInstance", StartFault::none, L"FALSE",
+        Failure{"InitInstance", std::nullopt, L"FALSE",
                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "ExitInstance", "AfxWinTerm"}},
-        Failure{"InitInstanceByException", StartFault::none, L"exception",
+        Failure{"InitInstanceByException", std::nullopt, L"exception",
                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "exception deleted",
                  "ExitInstance", "AfxWinTerm"}},
-        Failure{"InitInstanceByOtherException", StartFault::none, L"other exception",
+        Failure{"InitInstanceByOtherException", std::nullopt, L"other exception",
                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "ExitInstance", "AfxWinTerm"}},
-        Failure{"ChainEntry", StartFault::chainEntry, nullptr,
+        Failure{"ChainEntry", FailingStart::Step::chainEntry, nullptr,
                 {"AfxCoreInitModule", "AfxWinInit", "InitInstance", "AfxInitExtensionModule",
                  "CDynLinkLibrary", "exception deleted", "ExitInstance", "AfxWinTerm",
                  "AfxTermExtensionModule"}}),
@@ -200,7 +208,7 @@ TEST_P(FailingLoad, LeavesTheCallersStateAndNothingInTheChain) {
 TEST_P(FailingLoad, TheNextOneWorks) {
     Arm();
     EXPECT_EQ(LoadedModule(L"probe.dll").handle(), nullptr);
-    ::SetEnvironmentVariable(L"PROBE_REFUSES", nullptr);
+    Disarm();
     TakeDiary();
 
     LoadedModule probe(L"probe.dll");

@@ -114,9 +114,4 @@ AFXRT_API void AFXAPI AfxTermThread(HINSTANCE hInstTerm = NULL);
 namespace afx_internal {
 /// Reads a string of the resource chain, going on past modules whose block lacks it.
 AFXRT_API BOOL LoadStringFromChain(UINT id, CString& text);
-
-/// A step of a module's start that a test can make fail, to show that the rest is undone.
-enum class StartFault { none, winInit, chainEntry };
-/// Makes the next module start of the process fail at that step.
-AFXRT_API void ArmStartFault(StartFault fault);
 } // namespace afx_internal

@@ -70,7 +70,8 @@ CWinApp* AFXAPI AfxGetApp() {
 }
 
 CWinThread* AFXAPI AfxGetThread() {
-    return AfxGetApp();
+    CWinApp* app = AfxGetApp();
+    return app && app->m_nThreadID == ::GetCurrentThreadId() ? app : nullptr;
 }
 
 CWnd* AFXAPI AfxGetMainWnd() {

@@ -8,20 +8,6 @@
 
 namespace {
 
-// A main window, for as long as it lives.
-class MainWindow : public CWnd {
-public:
-    MainWindow() {
-        EXPECT_TRUE(CreateEx(0, nullptr, L"Main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 600,
-                             400, nullptr, nullptr));
-        theApp.m_pMainWnd = this;
-    }
-    ~MainWindow() override {
-        theApp.m_pMainWnd = nullptr;
-        DestroyWindow();
-    }
-};
-
 // ---- The run and its result
 
 TEST(Dialog, OkAndCancelEndItWithTheirNumbers) {

@@ -5,6 +5,8 @@
 #include "TestApp.h"
 #include "TestResource.h"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -46,4 +48,29 @@ public:
     using CDialog::EndDialog;
 
     DECLARE_MESSAGE_MAP()
+};
+
+// A modeless one whose object goes with its window.
+class PassingDialog : public FieldsDialog {
+public:
+    explicit PassingDialog(int& alive) : m_alive(alive) { ++m_alive; }
+    ~PassingDialog() override { --m_alive; }
+    void PostNcDestroy() override { delete this; }
+
+private:
+    int& m_alive;
+};
+
+// The application's main window, for as long as it lives.
+class MainWindow : public CWnd {
+public:
+    MainWindow() {
+        EXPECT_TRUE(CreateEx(0, nullptr, L"Main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 600,
+                             400, nullptr, nullptr));
+        theApp.m_pMainWnd = this;
+    }
+    ~MainWindow() override {
+        theApp.m_pMainWnd = nullptr;
+        DestroyWindow();
+    }
 };

@@ -54,7 +54,8 @@ private:
 
 /// The application object of the current module state, or NULL.
 AFXRT_API CWinApp* AFXAPI AfxGetApp();
-/// The thread object of the current module state, or NULL.
+/// The thread object of the calling thread: the application object on the thread that made it,
+/// NULL on any other.
 AFXRT_API CWinThread* AFXAPI AfxGetThread();
 /// The main window of AfxGetThread(), or NULL.
 AFXRT_API CWnd* AFXAPI AfxGetMainWnd();

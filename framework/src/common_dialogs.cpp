@@ -1,6 +1,7 @@
 #include <afxrt/common_dialogs.h>
 
 #include "disabled_window.h"
+#include "unhandled_exception.h"
 
 #include <algorithm>
 #include <colordlg.h>
@@ -31,13 +32,8 @@ template <class Call, class Result>
 Result Guarded(Call call, Result fallback) {
     try {
         return call();
-    } catch (CException* e) {
-        const MSG none = {};
-        if (CWinThread* thread = AfxGetThread())
-            thread->ProcessWndProcException(e, &none);
-        e->Delete();
-        return fallback;
     } catch (...) {
+        afx_internal::ProcessUnhandledException({});
         return fallback;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "afxres.h"
 #include "afxrt/app.h"
+#include "unhandled_exception.h"
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -92,5 +93,36 @@ namespace afx_internal {
 CaughtException::~CaughtException() {
     if (m_e)
         m_e->Delete();
+}
+
+namespace {
+
+LRESULT AskThread(CException* e, const MSG& message) {
+    CWinThread withoutObject;
+    CWinThread* thread = AfxGetThread();
+    if (!thread)
+        thread = AfxGetApp();
+    return (thread ? thread : &withoutObject)->ProcessWndProcException(e, &message);
+}
+
+} // namespace
+
+LRESULT ProcessUnhandledException(const MSG& message) noexcept {
+    try {
+        try {
+            throw;
+        } catch (CException* e) {
+            const CaughtException deleted(e);
+            // The opening of a dialog fails; whoever opens it learns that by its result.
+            return message.message == WM_INITDIALOG ? 0 : AskThread(e, message);
+        } catch (...) {
+            CSimpleException unknown(FALSE);
+            return AskThread(&unknown, message);
+        }
+    } catch (CException* e) { // of whoever was asked
+        e->Delete();
+    } catch (...) {
+    }
+    return 0;
 }
 } // namespace afx_internal

@@ -1,5 +1,6 @@
 #include "afxrt/thread.h"
 
+#include "afxres.h"
 #include "afxrt/handle_map.h"
 #include "afxrt/wnd.h"
 #include "thread_state.h"
@@ -89,8 +90,11 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
     if (pMsg->message == WM_PAINT)
         ::ValidateRect(pMsg->hwnd, nullptr); // else WM_PAINT would come again at once, for ever
     // Whoever throws a user exception has told the user already.
-    if (!e->IsKindOf(RUNTIME_CLASS(CUserException)))
-        e->ReportError(MB_ICONSTOP);
+    if (e->IsKindOf(RUNTIME_CLASS(CUserException)))
+        return 0;
+    // A menu's or an accelerator's command comes from no control.
+    const bool command = pMsg->message == WM_COMMAND && pMsg->lParam == 0;
+    e->ReportError(MB_ICONSTOP, command ? AFX_IDP_COMMAND_FAILURE : AFX_IDP_INTERNAL_FAILURE);
     return 0;
 }
 

@@ -1,10 +1,10 @@
 // Windows: the way of a message from the system to a handler, and the default handlers.
 #include "afxrt/wnd.h"
 
-#include "afxres.h"
 #include "afxrt/controls.h"
 #include "afxrt/device_context.h"
 #include "thread_state.h"
+#include "unhandled_exception.h"
 
 #include <utility>
 #include <windowsx.h>
@@ -43,26 +43,14 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     // No exception may leave a window procedure: the system would swallow it without a word.
     try {
         return window->WindowProc(message, wParam, lParam);
-    } catch (CException* e) {
-        LRESULT result = 0;
-        if (message == WM_INITDIALOG) {
-            window->EndModalLoop(-1); // a modeless dialog's Create fails
-        } else if (CWinThread* thread = AfxGetThread()) {
-            const MSG msg = {hWnd, message, wParam, lParam, 0, {}};
-            result = thread->ProcessWndProcException(e, &msg);
-        }
-        e->Delete();
-        return result;
     } catch (...) {
-        if (message == WM_PAINT)
-            ::ValidateRect(hWnd, nullptr); // else WM_PAINT would come again at once, for ever
-        // What it left behind is unknown: the conversation ends, the application goes on.
-        CWnd* top = CWnd::FromHandlePermanent(::GetAncestor(hWnd, GA_ROOT));
-        if (top && top->ContinueModal())
-            top->EndModalLoop(-1);
-        else if (message != WM_CREATE && message != WM_INITDIALOG)
-            AfxMessageBox(AFX_IDP_NO_ERROR_AVAILABLE, MB_ICONSTOP);
-        return message == WM_CREATE ? -1 : 0;
+        const LRESULT result =
+            afx_internal::ProcessUnhandledException({hWnd, message, wParam, lParam, 0, {}});
+        // A dialog half made ends, a modeless one by its Create. The handler may have ended it.
+        CWnd* dialog = message == WM_INITDIALOG ? CWnd::FromHandlePermanent(hWnd) : nullptr;
+        if (dialog)
+            dialog->EndModalLoop(-1);
+        return result;
     }
 }
 

@@ -21,6 +21,8 @@ public:
     std::function<void(FieldsDialog&)> onNameChange = [](FieldsDialog&) {};
     std::function<void(FieldsDialog&)> onInner = [](FieldsDialog&) {};
     std::function<void(FieldsDialog&)> onCheck = [](FieldsDialog&) {};
+    std::function<void(FieldsDialog&)> onPosted = [](FieldsDialog&) {}; // WM_APP
+    std::function<void(FieldsDialog&)> onOk = [](FieldsDialog& d) { d.CDialog::OnOK(); };
     std::vector<std::string> log; // notifications, in the order in which they came
 
     BOOL OnInitDialog() override {
@@ -45,6 +47,11 @@ public:
         log.push_back("check");
         onCheck(*this);
     }
+    LRESULT OnPosted(WPARAM, LPARAM) {
+        onPosted(*this);
+        return 0;
+    }
+    void OnOK() override { onOk(*this); }
     using CDialog::EndDialog;
 
     DECLARE_MESSAGE_MAP()

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <vector>
 
 class TestApp : public CWinApp {
@@ -18,6 +19,13 @@ public:
     std::vector<Help> helps;
 
     void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override { helps.push_back({dwData, nCmd}); }
+
+    /// Asked instead of the default for an exception that a handler lets out.
+    std::function<LRESULT(CException*, const MSG*)> onException;
+
+    LRESULT ProcessWndProcException(CException* e, const MSG* message) override {
+        return onException ? onException(e, message) : CWinApp::ProcessWndProcException(e, message);
+    }
 
     int commandsSeen = 0;
     void OnForeignCommand() { ++commandsSeen; }

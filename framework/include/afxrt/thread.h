@@ -25,7 +25,10 @@ public:
     virtual BOOL OnIdle(LONG lCount);
     /// Whether idle work is due after this message.
     virtual BOOL IsIdleMessage(MSG* pMsg);
-    /// Deals with an exception that a message handler let out; the result is the message's.
+    /// Deals with an exception that a message handler let out; the result is the message's. The
+    /// default tells the user, by the exception's own text or else that the command, or the
+    /// application, has failed. An exception that is none of the framework's comes as a
+    /// CSimpleException; an override finds it in std::current_exception().
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
     virtual CWnd* GetMainWnd();
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);

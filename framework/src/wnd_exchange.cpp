@@ -5,7 +5,7 @@
 #include "thread_state.h"
 
 #include <cstring>
-#include <utility>
+#include <limits>
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
@@ -43,47 +43,59 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
     if (!found) // most dialogs have none
         return TRUE;
     const HGLOBAL loaded = ::LoadResource(module, found);
-    return loaded && ExecuteDlgInit(::LockResource(loaded));
+    return loaded && afx_internal::ExecuteInitBlock(m_hWnd, ::LockResource(loaded),
+                                                    ::SizeofResource(module, found));
+}
+
+BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
+    return !lpResource ||
+           afx_internal::ExecuteInitBlock(m_hWnd, lpResource, std::numeric_limits<DWORD>::max());
 }
 
 namespace {
 
-// The stored message numbers are those of 16-bit Windows.
+// The message of a record, which is stored by its number in 16-bit Windows; 0 for any other than
+// those that add a text. Another one might take the text's address for room to write into.
 UINT MessageOfInitBlock(WORD stored) {
     switch (stored) {
     case 0x0401:
+    case LB_ADDSTRING:
         return LB_ADDSTRING;
     case 0x0403:
+    case CB_ADDSTRING:
         return CB_ADDSTRING;
     default:
-        return stored;
+        return 0;
     }
 }
 
 } // namespace
 
-// Records of: WORD control, WORD message, DWORD length, that many bytes; a control 0 ends them.
-// The texts are in the system's ANSI code page.
-BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
-    const auto* at = static_cast<const BYTE*>(lpResource);
+// Records of: WORD control, WORD message, DWORD length, that many bytes; a control 0, or the end of
+// the block, ends them. The texts are in the system's ANSI code page.
+bool afx_internal::ExecuteInitBlock(HWND dialog, const void* block, std::size_t size) {
+    const auto* at = static_cast<const BYTE*>(block);
     const auto take = [&]<class T>(T& value) {
+        if (size < sizeof value)
+            return false;
         std::memcpy(&value, at, sizeof value); // records are not aligned
         at += sizeof value;
+        size -= sizeof value;
+        return true;
     };
-    while (at) {
-        WORD control = 0;
-        take(control);
-        if (control == 0)
-            break;
+    WORD control = 0;
+    while (take(control) && control != 0) {
         WORD message = 0;
         DWORD length = 0;
-        take(message);
-        take(length);
-        const LRESULT result = ::SendDlgItemMessageA(m_hWnd, control, MessageOfInitBlock(message),
+        if (!take(message) || !take(length) || length > size || !std::memchr(at, '\0', length) ||
+            MessageOfInitBlock(message) == 0)
+            return false;
+        const LRESULT result = ::SendDlgItemMessageA(dialog, control, MessageOfInitBlock(message),
                                                      0, reinterpret_cast<LPARAM>(at));
         if (result == CB_ERR || result == CB_ERRSPACE)
-            return FALSE;
+            return false;
         at += length;
+        size -= length;
     }
-    return TRUE;
+    return true;
 }

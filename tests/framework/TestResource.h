@@ -6,6 +6,7 @@
 #define IDD_CHILDREN        4005
 #define IDD_NO_IDLE         4006
 #define IDD_INIT_FOR_NOBODY 4007
+#define IDD_INIT_CUT        4008
 
 #define IDC_NAME    5001
 #define IDC_DOUBLE  5002

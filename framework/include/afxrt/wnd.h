@@ -92,8 +92,10 @@ public:
     /// Exchanges the dialog's data: TRUE from the controls (nonzero when all of it was valid),
     /// FALSE into them. While it runs, notifications of this window's controls are ignored.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
-    /// Sends the messages of the template's init block (resource type 240) to the controls.
+    /// Sends the messages of the template's init block (resource type 240) to the controls: the
+    /// texts of list and combo boxes. FALSE when a record is malformed or refused.
     BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    /// The same with a block that must end as it should: its size is not known.
     BOOL ExecuteDlgInit(LPVOID lpResource);
 
     // State
@@ -403,6 +405,11 @@ public:
     WindowCreation(const WindowCreation&) = delete;
     WindowCreation& operator=(const WindowCreation&) = delete;
 };
+
+/// Sends the messages of a template's init block to the dialog's controls, reading not beyond the
+/// block's size. False at the first record that is cut off, has another message than one which
+/// adds a text, has no end of its text, or that its control refuses.
+AFXRT_API bool ExecuteInitBlock(HWND dialog, const void* block, std::size_t size);
 
 /// Sets a window's text unless it has it already: setting an equal text would put an edit's
 /// caret at its start and fire a change.

@@ -2,6 +2,8 @@
 #include "afxrt/ddx.h"
 
 #include "afxrt/controls.h"
+#include "afxrt/dialog.h"
+#include "module_file.h"
 #include "window_text.h"
 
 CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
@@ -9,10 +11,28 @@ CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
     m_pDlgWnd->m_exchangedControls.Rewind();
 }
 
+// The user learns no more than that the dialog fails: this is for whoever made its template.
+void CDataExchange::TellOfMissing(int nIDC) const {
+    const auto* dialog = DYNAMIC_DOWNCAST(CDialog, m_pDlgWnd);
+    if (!dialog || !dialog->m_lpszTemplateName)
+        return;
+    CString name;
+    if (IS_INTRESOURCE(dialog->m_lpszTemplateName))
+        name.Format(L"%u", LOWORD(reinterpret_cast<ULONG_PTR>(dialog->m_lpszTemplateName)));
+    else
+        name = dialog->m_lpszTemplateName;
+    CString text;
+    text.Format(L"Template %s has no control %d (%s).\n", name.GetString(), nIDC,
+                afx_internal::MappedFile(dialog->m_templateModule).c_str());
+    ::OutputDebugString(text);
+}
+
 HWND CDataExchange::Prepare(int nIDC, bool edit) {
     const HWND control = m_pDlgWnd->m_exchangedControls.Find(m_pDlgWnd->m_hWnd, nIDC);
-    if (!control)
+    if (!control) {
+        TellOfMissing(nIDC);
         AfxThrowNotSupportedException();
+    }
     m_control = control;
     m_controlIsEdit = edit;
     return control;

@@ -66,19 +66,24 @@ void CDialog::TakeTemplateName(LPCTSTR name) {
         m_nIDHelp = LOWORD(reinterpret_cast<ULONG_PTR>(name));
 }
 
-bool CDialog::CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance) {
+HWND CDialog::CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance,
+                         bool* initialised) {
     const afx_internal::WindowCreation creation(this);
-    m_initialised = false;
-    return ::CreateDialogIndirect(instance, dialogTemplate, owner, &DialogProc) != nullptr;
+    m_templateModule = instance;
+    m_initialised = initialised;
+    return ::CreateDialogIndirect(instance, dialogTemplate, owner, &DialogProc);
 }
 
 bool CDialog::CreateModeless(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance) {
     m_bModalEnded = false; // may be left from a modal run
-    if (!CreateFrom(dialogTemplate, HandleOf(m_pParentWnd), instance))
+    // Not a member: OnInitDialog may destroy the window, and the object goes with it.
+    bool initialised = false;
+    const HWND window = CreateFrom(dialogTemplate, HandleOf(m_pParentWnd), instance, &initialised);
+    if (!::IsWindow(window))
         return false;
-    if (!m_initialised) // an exception left OnInitDialog
+    if (!initialised) // an exception left OnInitDialog
         DestroyWindow();
-    return m_initialised;
+    return initialised;
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
@@ -119,7 +124,7 @@ INT_PTR CDialog::DoModal() {
 
     BeginModal(); // from here on EndDialog counts, in OnInitDialog too
     try {
-        if (CreateFrom(found.data, owner, found.module)) {
+        if (CreateFrom(found.data, owner, found.module, nullptr)) {
             RunModalLoop(GetStyle() & DS_NOIDLEMSG ? MLF_SHOWONIDLE | MLF_NOIDLEMSG
                                                    : MLF_SHOWONIDLE);
             if (m_hWnd)
@@ -149,8 +154,10 @@ void CDialog::EndDialog(int nResult) {
 }
 
 LRESULT CDialog::AnswerInitDialog(WPARAM, LPARAM) {
+    bool* const initialised = m_initialised;
     const BOOL setFocus = OnInitDialog();
-    m_initialised = true;
+    if (initialised)
+        *initialised = true;
     return setFocus;
 }
 

@@ -1,6 +1,8 @@
 #include "module_file.h"
 
 #include <iterator>
+#include <psapi.h>
+#include <vector>
 
 namespace afx_internal {
 namespace {
@@ -12,6 +14,8 @@ std::wstring LanguageCode(LANGID language) {
                     static_cast<int>(std::size(code)));
     return code;
 }
+
+constexpr std::size_t longestPath = 32767; // of any file
 
 LANGID MainLanguage(LANGID language) {
     return MAKELANGID(PRIMARYLANGID(language), SUBLANG_DEFAULT);
@@ -30,6 +34,17 @@ std::wstring ModulePath(HMODULE module) {
         }
         path.resize(path.size() * 2);
     }
+}
+
+std::wstring MappedFile(HMODULE module) {
+    // A module that was loaded for its resources has marks in the low bits of its handle.
+    constexpr ULONG_PTR marks = 3;
+    std::wstring path(longestPath, L'\0');
+    path.resize(
+        ::GetMappedFileName(::GetCurrentProcess(),
+                            reinterpret_cast<void*>(reinterpret_cast<ULONG_PTR>(module) & ~marks),
+                            path.data(), static_cast<DWORD>(path.size())));
+    return path;
 }
 
 std::wstring WithoutExtension(const std::wstring& path) {

@@ -7,6 +7,7 @@
 #include "afxrt/gdi.h"
 #include "afxrt/handle_map.h"
 #include "afxrt/menu.h"
+#include "exchange_lock.h"
 #include "thread_state.h"
 #include "window_text.h"
 
@@ -39,6 +40,8 @@ CWnd::~CWnd() {
     // The derived parts are gone: a virtual call would reach this class's DestroyWindow only.
     if (m_hWnd && Windows().LookupPermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
+    if (m_exchange)
+        m_exchange->Forget();
 }
 
 HWND CWnd::GetSafeHwnd() const {

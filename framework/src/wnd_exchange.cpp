@@ -2,35 +2,24 @@
 #include "afxres.h"
 #include "afxrt/ddx.h"
 #include "afxrt/wnd.h"
-#include "thread_state.h"
+#include "exchange_lock.h"
 
 #include <cstring>
 #include <limits>
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
-// The notifications of a window's controls are ignored as long as one of these lives.
-class afx_internal::ExchangeLock {
-public:
-    explicit ExchangeLock(CWnd& window) : m_exchanges(window.m_exchanges) { ++m_exchanges; }
-    ~ExchangeLock() { --m_exchanges; }
-    ExchangeLock(const ExchangeLock&) = delete;
-    ExchangeLock& operator=(const ExchangeLock&) = delete;
-
-private:
-    int& m_exchanges;
-};
-
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     CDataExchange exchange(this, bSaveAndValidate);
     const afx_internal::ExchangeLock lock(*this);
     try {
         DoDataExchange(&exchange);
-        return TRUE;
+        return lock.HasWindow();
     } catch (CUserException* e) { // thrown after the user was told
         e->Delete();
     } catch (CException* e) {
-        e->ReportError(MB_ICONEXCLAMATION, AFX_IDP_INTERNAL_FAILURE);
+        if (lock.HasWindow()) // a window that is gone has no user to tell
+            e->ReportError(MB_ICONEXCLAMATION, AFX_IDP_INTERNAL_FAILURE);
         e->Delete();
     }
     return FALSE;

@@ -246,7 +246,7 @@ BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHand
 bool CWnd::TakesControlNotifications() const {
     // During an exchange the controls only echo what the exchange does to them. Once a modal
     // run has its result, they only report that the window is closing.
-    return m_exchanges == 0 && !m_bModalEnded;
+    return !m_exchange && !m_bModalEnded;
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {

@@ -505,6 +505,73 @@ TEST(DialogEnds, AModelessDialogWhoseInitialisationFailsIsNotMade) {
     EXPECT_EQ(dialog.m_hWnd, nullptr);
 }
 
+TEST(DialogEnds, AWindowDestroyedInItsInitialisationIsMinusOneOrNotMade) {
+    MainWindow main;
+    FieldsDialog modal;
+    modal.onInit = [](FieldsDialog& d) { d.DestroyWindow(); };
+    EXPECT_EQ(modal.DoModal(), -1);
+    EXPECT_EQ(modal.m_hWnd, nullptr);
+    EXPECT_TRUE(main.IsWindowEnabled());
+
+    FieldsDialog modeless;
+    modeless.onInit = modal.onInit;
+    EXPECT_FALSE(modeless.Create(IDD_FIELDS));
+
+    int alive = 0;
+    auto* const passing = new PassingDialog(alive);
+    passing->onInit = [](FieldsDialog& d) { ::DestroyWindow(d.m_hWnd); };
+    EXPECT_FALSE(passing->Create(IDD_FIELDS));
+    EXPECT_EQ(alive, 0);
+}
+
+TEST(DialogEnds, AWindowDestroyedInItsInitialisationThatThenFails) {
+    int alive = 0;
+    for (const bool foreign : {false, true}) {
+        auto* const passing = new PassingDialog(alive);
+        passing->onInit = [foreign](FieldsDialog& d) {
+            const bool asStandard = foreign; // the function goes with the object
+            ::DestroyWindow(d.m_hWnd);
+            if (asStandard)
+                throw std::runtime_error("from an initialisation");
+            AfxThrowResourceException();
+        };
+        kit::Script script;
+        if (foreign)
+            script.expectMessage(L"Framework tests", L"Internal application error.", MB_ICONERROR);
+        EXPECT_FALSE(script.run([&] { return passing->Create(IDD_FIELDS); }));
+        EXPECT_EQ(alive, 0);
+    }
+}
+
+TEST(DialogEnds, ATemplateThatFailsAfterAModelessRunTouchesNothingOfIt) {
+    FieldsDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    dialog.DestroyWindow();
+    kit::Script script;
+    script.onDialog([](kit::Dialog& d) { d.press(IDOK); });
+    EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDOK);
+}
+
+// What a derived class does after its base initialisation has failed, whatever it answers.
+TEST(DialogEnds, AnInitialisationThatGoesOnAfterAFailureIsMinusOne) {
+    for (const bool destroys : {false, true}) {
+        FieldsDialog dialog(nullptr, IDD_INIT_REFUSED);
+        CWnd control;
+        dialog.onInit = [&](FieldsDialog& d) {
+            EXPECT_FALSE(control.SubclassDlgItem(IDC_NO_SUCH, &d));
+            d.SetDlgItemText(IDC_NO_SUCH, L"x");
+            d.CheckRadioButton(IDC_RADIO_A, IDC_RADIO_C, IDC_RADIO_B);
+            d.CenterWindow();
+            EXPECT_TRUE(d.UpdateData(FALSE));
+            d.EndDialog(5); // it has ended already, but this is what it says last
+            if (destroys)
+                d.DestroyWindow();
+        };
+        EXPECT_EQ(dialog.DoModal(), 5);
+        EXPECT_EQ(dialog.m_hWnd, nullptr);
+    }
+}
+
 TEST(DialogEnds, AModelessRunAfterAModalOneNotifiesAgain) {
     FieldsDialog dialog;
     kit::Script script;

@@ -12,8 +12,8 @@ public:
     const BOOL m_bSaveAndValidate; ///< TRUE: from the controls; FALSE: into them
     CWnd* const m_pDlgWnd;
 
-    /// Makes a control (not an edit) the current one; throws CNotSupportedException when the
-    /// dialog does not have it.
+    /// Makes a control (not an edit) the current one. When the dialog does not have it, the debug
+    /// output tells of it, with the template and its file, and a CNotSupportedException is thrown.
     HWND PrepareCtrl(int nIDC);
     /// The same for an edit, whose text Fail selects.
     HWND PrepareEditCtrl(int nIDC);
@@ -25,6 +25,7 @@ private:
     friend AFXRT_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 
     HWND Prepare(int nIDC, bool edit);
+    void TellOfMissing(int nIDC) const;
     /// The control that follows this one in the order of the dialog, or null.
     HWND NextCtrl(HWND control);
 

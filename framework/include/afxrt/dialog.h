@@ -62,10 +62,14 @@ protected:
     CWnd* m_pParentWnd = nullptr;
 
 private:
-    bool CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance);
+    friend class CDataExchange;
+
+    HWND CreateFrom(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance,
+                    bool* initialised);
     bool CreateModeless(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance);
     void TakeTemplateName(LPCTSTR name);
 
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
-    bool m_initialised = false; // OnInitDialog has returned
+    HINSTANCE m_templateModule = nullptr; // which the window's template is from
+    bool* m_initialised = nullptr;        // to be set when OnInitDialog has returned
 };

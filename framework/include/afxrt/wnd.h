@@ -89,8 +89,9 @@ public:
     virtual BOOL DestroyWindow();
 
     // Data exchange
-    /// Exchanges the dialog's data: TRUE from the controls (nonzero when all of it was valid),
-    /// FALSE into them. While it runs, notifications of this window's controls are ignored.
+    /// Exchanges the dialog's data: TRUE from the controls (nonzero when all of it was valid and
+    /// the window is still there), FALSE into them. While it runs, notifications of this window's
+    /// controls are ignored.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// Sends the messages of the template's init block (resource type 240) to the controls: the
     /// texts of list and combo boxes. FALSE when a record is malformed or refused.
@@ -361,7 +362,7 @@ private:
     /// From here on EndModalLoop counts, until the loop's end.
     void BeginModal();
 
-    int m_exchanges = 0; // as many of this window run, one inside the other
+    afx_internal::ExchangeLock* m_exchange = nullptr; // the innermost one that runs
 
     int m_nModalResult = 0;
     bool m_bModalEnded = false; // the result is set: no control notification is delivered

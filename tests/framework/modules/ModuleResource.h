@@ -10,6 +10,9 @@
 #define ID_LANGUAGE 61004
 #define ID_ANYWHERE 61005
 
+// A template that the language modules have.
+#define IDD_OF_LANGUAGE 61006
+
 // Strings of one block: each module has one of them.
 #define IDS_OF_PROGRAM  61105
 #define IDS_OF_PROBE    61106

@@ -50,6 +50,10 @@ HWND CDataExchange::NextCtrl(HWND control) {
     return m_pDlgWnd->m_exchangedControls.FindNext(m_pDlgWnd->m_hWnd, control);
 }
 
+bool CDataExchange::IsRadioButton(LONG_PTR style) {
+    return m_pDlgWnd->m_exchangedControls.IsRadioButton(style);
+}
+
 void CDataExchange::Fail() {
     if (m_bSaveAndValidate && m_control) {
         ::SetFocus(m_control);
@@ -93,14 +97,6 @@ void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value) {
     }
 }
 
-namespace {
-
-bool IsRadioButton(HWND control) {
-    return (::SendMessage(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
-}
-
-} // namespace
-
 void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
     HWND control = pDX->PrepareCtrl(nIDC);
     const int wanted = value;
@@ -109,8 +105,9 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
     // The group: this control, and those after it in the order of the dialog up to the next
     // that starts one.
     int index = 0;
+    LONG_PTR style = ::GetWindowLongPtr(control, GWL_STYLE);
     do {
-        if (IsRadioButton(control)) {
+        if (pDX->IsRadioButton(style)) {
             if (!pDX->m_bSaveAndValidate)
                 SetCheck(control, index == wanted ? BST_CHECKED : BST_UNCHECKED);
             else if (value < 0 && CheckOf(control) == BST_CHECKED)
@@ -118,7 +115,8 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value) {
             ++index;
         }
         control = pDX->NextCtrl(control);
-    } while (control && !(::GetWindowLongPtr(control, GWL_STYLE) & WS_GROUP));
+        style = control ? ::GetWindowLongPtr(control, GWL_STYLE) : WS_GROUP;
+    } while (!(style & WS_GROUP));
 }
 
 namespace {

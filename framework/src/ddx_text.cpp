@@ -3,6 +3,7 @@
 #include "afxrt/ddx.h"
 #include "window_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -54,23 +55,32 @@ bool Parse(std::wstring_view text, Number& value) {
     return true;
 }
 
+/// A number as a text.
 template <class Number>
-std::wstring Show(Number value) {
-    char buffer[64];
-    std::to_chars_result result;
-    if constexpr (std::is_floating_point_v<Number>)
-        result = std::to_chars(buffer, std::end(buffer), value, std::chars_format::general,
-                               std::numeric_limits<Number>::digits10);
-    else
-        result = std::to_chars(buffer, std::end(buffer), value);
-    return std::wstring(buffer, result.ptr);
-}
+class Shown {
+public:
+    explicit Shown(Number value) {
+        char digits[longest];
+        std::to_chars_result result;
+        if constexpr (std::is_floating_point_v<Number>)
+            result = std::to_chars(digits, std::end(digits), value, std::chars_format::general,
+                                   std::numeric_limits<Number>::digits10);
+        else
+            result = std::to_chars(digits, std::end(digits), value);
+        *std::copy(digits, result.ptr, m_text) = L'\0';
+    }
+    operator LPCTSTR() const { return m_text; }
+
+private:
+    static constexpr std::size_t longest = 32;
+    wchar_t m_text[longest + 1];
+};
 
 template <class Number>
 void ExchangeNumber(CDataExchange* pDX, int nIDC, Number& value, UINT prompt) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
     if (!pDX->m_bSaveAndValidate) {
-        SetTextIfDifferent(control, Show(value).c_str());
+        SetTextIfDifferent(control, Shown(value));
         return;
     }
     Number read{};
@@ -154,7 +164,7 @@ void RequireRange(CDataExchange* pDX, Number value, Number low, Number high, UIN
     if (!pDX->m_bSaveAndValidate || (value >= low && value <= high))
         return;
     CString text;
-    AfxFormatString2(text, prompt, Show(low).c_str(), Show(high).c_str());
+    AfxFormatString2(text, prompt, Shown(low), Shown(high));
     AfxMessageBox(text, MB_ICONEXCLAMATION, prompt);
     pDX->Fail();
 }
@@ -212,7 +222,7 @@ void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double min
 void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars) {
     if (pDX->m_bSaveAndValidate && value.GetLength() > nChars) {
         CString prompt;
-        AfxFormatString1(prompt, AFX_IDP_PARSE_STRING_SIZE, Show(nChars).c_str());
+        AfxFormatString1(prompt, AFX_IDP_PARSE_STRING_SIZE, Shown(nChars));
         AfxMessageBox(prompt, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
         pDX->Fail();
     }

@@ -254,7 +254,9 @@ int CWnd::SetDlgCtrlID(int nID) {
 }
 
 void CWnd::GetWindowText(CString& rString) const {
-    afx_internal::ReadText(m_hWnd, rString);
+    const int size = ::GetWindowTextLength(m_hWnd) + 1;
+    ::GetWindowText(m_hWnd, rString.GetBuffer(size), size);
+    rString.ReleaseBuffer();
 }
 
 int CWnd::GetDlgItemText(int nID, CString& rString) const {

@@ -28,6 +28,7 @@ private:
     void TellOfMissing(int nIDC) const;
     /// The control that follows this one in the order of the dialog, or null.
     HWND NextCtrl(HWND control);
+    bool IsRadioButton(LONG_PTR style);
 
     HWND m_control = nullptr;
     bool m_controlIsEdit = false;

@@ -1,5 +1,6 @@
 #include "module_file.h"
 
+#include <algorithm>
 #include <iterator>
 #include <psapi.h>
 #include <vector>
@@ -58,11 +59,14 @@ HINSTANCE LoadLanguageModule(HMODULE module) {
         return nullptr;
     const LANGID user = ::GetUserDefaultUILanguage();
     const LANGID system = ::GetSystemDefaultUILanguage();
+    std::vector<std::wstring> codes;
     for (const std::wstring& code :
          {LanguageCode(user), LanguageCode(MainLanguage(user)), LanguageCode(system),
-          LanguageCode(MainLanguage(system)), std::wstring(L"LOC")}) {
-        if (code.empty())
-            continue;
+          LanguageCode(MainLanguage(system)), std::wstring(L"LOC")})
+        // Mostly all languages are one, and to look for a file that is not there takes long.
+        if (!code.empty() && std::ranges::find(codes, code) == codes.end())
+            codes.push_back(code);
+    for (const std::wstring& code : codes) {
         // Resources only: a file of that name gets no chance to run code.
         const std::wstring file = stem + code + L".dll";
         if (HINSTANCE found = ::LoadLibraryEx(

@@ -58,9 +58,10 @@ TEST_P(Dialogos, HasItsSmallIconOnly) {
 }
 
 TEST_P(Dialogos, OpensInTheMiddleOfItsOwnerWhichWaits) {
-    CWnd duena;
+    CWnd duena, activa; // not the one that it would take by itself
     constexpr DWORD estilo = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
     ASSERT_TRUE(duena.CreateEx(0, L"Static", L"Host", estilo, CRect(60, 40, 960, 640), nullptr, 0));
+    ASSERT_TRUE(activa.CreateEx(0, L"Static", L"Other", estilo, CRect(0, 0, 90, 90), nullptr, 0));
     const auto mira = [&](kit::Dialog& dialogo) {
         EXPECT_EQ(dialogo.owner(), duena.m_hWnd);
         EXPECT_FALSE(duena.IsWindowEnabled());
@@ -74,6 +75,7 @@ TEST_P(Dialogos, OpensInTheMiddleOfItsOwnerWhichWaits) {
     EXPECT_EQ(Abre(mira, &duena), IDCANCEL);
     EXPECT_TRUE(duena.IsWindowEnabled());
     EXPECT_EQ(GetActiveWindow(), duena.m_hWnd);
+    activa.DestroyWindow();
     duena.DestroyWindow();
 }
 

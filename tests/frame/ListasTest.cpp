@@ -335,6 +335,8 @@ TEST(Listas, RowsLeftOutStayDeselectedUntilTheNextChange) {
         EXPECT_EQ(LetrasDe(prueba.m_Lista), L"ABcD");
         Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {});
         EXPECT_EQ(LetrasDe(prueba.m_Lista), L"ABCD");
+        Cuadros::CambiaFilas(prueba.m_Lista, mostradas, FilasCon(L"ABCD"), {2});
+        EXPECT_EQ(LetrasDe(prueba.m_Lista), L"ABcD");
         prueba.EndDialog(IDCANCEL);
     });
     EXPECT_EQ(dialogo.DoModal(), IDCANCEL);
@@ -345,9 +347,13 @@ TEST(Listas, TouchedListIsFilledAnew) {
     using Toque = void (*)(CListCtrl&);
     const Toque toques[] = {
         [](CListCtrl& lista) { lista.SetItemState(1, 0, LVIS_SELECTED); },
-        [](CListCtrl& lista) { lista.SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED); },
+        [](CListCtrl& lista) {
+            lista.SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);
+            lista.SetSelectionMark(-1);
+        },
         [](CListCtrl& lista) { lista.SetSelectionMark(1); },
         [](CListCtrl& lista) { lista.DeleteItem(5); },
+        [](CListCtrl& lista) { lista.InsertItem(40, L"foreign"); },
         [](CListCtrl& lista) { lista.EnsureVisible(39, FALSE); },
     };
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 0); });

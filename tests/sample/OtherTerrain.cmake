@@ -21,8 +21,8 @@ if(NOT result EQUAL 0)
 endif()
 
 # The multiples of 2 m, which suits the terrain, from -54 m to -6 m, a tenth of the way from either
-# end; and a code that was typed elsewhere is in its record.
-foreach(expected "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "m_Cadena +\"\" +-> \"CN\"" "  25 contours and [0-9]+ labels")
+# end; a code that was typed elsewhere is in its record; and help was asked for.
+foreach(expected "help asked for at context 151165" "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "m_Cadena +\"\" +-> \"CN\"" "  25 contours and [0-9]+ labels")
   if(NOT output MATCHES "${expected}")
     message(FATAL_ERROR "The tour does not say: ${expected}\n${output}")
   endif()

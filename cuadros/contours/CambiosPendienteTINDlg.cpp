@@ -53,3 +53,8 @@ void CCambiosPendienteTINDlg::OnBnClickedGenerarDibujo() {
 void CCambiosPendienteTINDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_CAMBIOS_PENDIENTE_TIN);
 }
+
+BOOL CCambiosPendienteTINDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

@@ -26,7 +26,7 @@ public:
     afx_msg void OnBnClickedGenerarDibujo();
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
 protected:
     Cotana::CDataCambiosPendiente* m_pData;

@@ -41,3 +41,8 @@ BOOL CCurvadoCodigosDlg::OnInitDialog() {
 void CCurvadoCodigosDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_CURVADO_CODIGOS);
 }
+
+BOOL CCurvadoCodigosDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

@@ -28,7 +28,7 @@ public:
     BOOL OnInitDialog() override;
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
 protected:
     CString* m_pCodigo1;

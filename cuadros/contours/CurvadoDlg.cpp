@@ -212,3 +212,8 @@ void CCurvadoDlg::OnOK() {
 void CCurvadoDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_CURVADO);
 }
+
+BOOL CCurvadoDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

@@ -41,7 +41,7 @@ public:
     void OnOK() override;
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
 protected:
     Cotana::CDataCurvado* m_pData;

@@ -83,3 +83,8 @@ void CVectoresPendienteDlg::OnOK() {
 void CVectoresPendienteDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_VECTORES_PENDIENTE);
 }
+
+BOOL CVectoresPendienteDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

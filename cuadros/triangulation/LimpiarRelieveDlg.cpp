@@ -41,4 +41,9 @@ void CLimpiarRelieveDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_LIMPIAR_RELIEVE);
 }
 
+BOOL CLimpiarRelieveDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}
+
 } // namespace Cotana

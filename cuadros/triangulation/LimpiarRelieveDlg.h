@@ -25,7 +25,7 @@ public:
     void OnOK() override;
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
 protected:
     CString m_TextoB;

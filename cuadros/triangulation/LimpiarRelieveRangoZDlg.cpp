@@ -43,4 +43,9 @@ void CLimpiarRelieveRangoZDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_LIMPIAR_RELIEVE_RANGO_Z);
 }
 
+BOOL CLimpiarRelieveRangoZDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}
+
 } // namespace Cotana

@@ -43,3 +43,8 @@ void CSuavizarTINDlg::OnBnClickedCheckIterar() {
 void CSuavizarTINDlg::OnHelp() {
     Cuadros::AbreAyuda(IDD_SUAVIZAR_TIN);
 }
+
+BOOL CSuavizarTINDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    OnHelp();
+    return TRUE;
+}

@@ -25,7 +25,7 @@ public:
     afx_msg void OnBnClickedCheckIterar();
 
     virtual void OnHelp();
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
 protected:
     Cotana::CDataSuavizarTIN* m_pData;

@@ -190,4 +190,11 @@ void CTriangulacionDlg::OnOK() {
     CDialog::OnOK();
 }
 
+BOOL CTriangulacionDlg::OnHelpInfo(HELPINFO* /*pHelpInfo*/) {
+    // The framework's own road: the control with the focus is asked first, and the dialog answers
+    // with its template number.
+    CWnd::OnHelp();
+    return TRUE;
+}
+
 } // namespace Cotana

@@ -41,9 +41,7 @@ public:
 
     void OnOK() override;
 
-    // The framework's own road: the control with the focus is asked first, and the dialog answers
-    // with its template number.
-    afx_msg BOOL OnHelpInfo(HELPINFO*) { return CWnd::OnHelp(), TRUE; }
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
 
     /// Shows the record's breakline table in its list anew, every row selected. The dialog must be
     /// open.

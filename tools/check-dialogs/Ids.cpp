@@ -24,7 +24,7 @@ void addOnce(std::map<int, std::wstring>& table, int number, const std::wstring&
 void Ids::read(const std::wstring& file, Report& report) {
     const std::wstring place = std::filesystem::path(file).filename().wstring();
     std::wstring className;
-    DialogIds* dialog = nullptr;
+    std::shared_ptr<DialogIds> dialog;
     for (const std::string& line : linesOf(file)) {
         std::wistringstream words(widened(line));
         std::wstring first;
@@ -37,13 +37,15 @@ void Ids::read(const std::wstring& file, Report& report) {
             continue;
 
         if (beginsWith(symbol, L"IDD_")) {
-            const auto [entry, added] = m_dialogs.try_emplace(number);
-            if (!added)
-                report.add(place, L"ids", symbol + L" has the number of " + entry->second.symbol);
-            dialog = &entry->second;
-            dialog->symbol = symbol;
-            dialog->name = className.empty() ? symbol : className;
+            const bool further =
+                className.empty() && dialog != nullptr && beginsWith(symbol, dialog->symbol + L"_");
+            if (!further)
+                dialog = std::make_shared<DialogIds>(
+                    DialogIds{className.empty() ? symbol : className, symbol, {}});
             className.clear();
+            const auto [entry, added] = m_dialogs.emplace(number, dialog);
+            if (!added)
+                report.add(place, L"ids", symbol + L" has the number of " + entry->second->symbol);
         } else if (beginsWith(symbol, L"IDC_")) {
             if (dialog == nullptr || !beginsWith(symbol, L"IDC_" + dialog->symbol.substr(4) + L"_"))
                 report.add(place, L"ids", symbol + L" does not name the dialog it stands under");

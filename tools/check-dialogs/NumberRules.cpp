@@ -54,8 +54,8 @@ void checkControlIds(const Dialog& dialog, const DialogIds& ids, Report& report)
     }
     for (const auto& [number, symbol] : ids.controls) {
         if (seen.count(number) == 0)
-            report.add(dialog.place(), L"ids",
-                       L"its template lacks " + symbol + L" (" + std::to_wstring(number) + L")");
+            report.add(dialog.place() + L": control " + std::to_wstring(number), L"absent",
+                       L"is not in the template: " + symbol);
     }
 }
 
@@ -100,7 +100,7 @@ void checkTemplates(HMODULE language, const Ids& ids, Report& report) {
     const std::set<int> templates = resourcesOf(language, RT_DIALOG);
     for (const auto& [number, dialog] : ids.dialogs()) {
         if (templates.count(number) == 0)
-            report.add(dialog.name + L" (" + std::to_wstring(number) + L")", L"template",
+            report.add(dialog->name + L" (" + std::to_wstring(number) + L")", L"template",
                        L"has no template");
     }
     for (const int number : resourcesOf(language, initialItemsType)) {
@@ -111,7 +111,7 @@ void checkTemplates(HMODULE language, const Ids& ids, Report& report) {
     }
     for (const int number : templates) {
         const auto known = ids.dialogs().find(number);
-        const std::wstring name = known == ids.dialogs().end() ? L"template" : known->second.name;
+        const std::wstring name = known == ids.dialogs().end() ? L"template" : known->second->name;
         const auto dialog = Dialog::create(language, number, name, report);
         if (!dialog)
             continue;
@@ -130,7 +130,7 @@ void checkTemplates(HMODULE language, const Ids& ids, Report& report) {
         if (known == ids.dialogs().end())
             report.add(dialog->place(), L"ids", L"no header has a symbol for it");
         else
-            checkControlIds(*dialog, known->second, report);
+            checkControlIds(*dialog, *known->second, report);
     }
 }
 

@@ -92,7 +92,7 @@ int wmain(int count, wchar_t** values) {
     checkLanguage(language, report);
 
     const int findings = report.print();
-    std::printf("check-dialogs: %zu dialogs, %zu texts, %zu icons, %d findings\n",
+    std::printf("check-dialogs: %zu templates, %zu texts, %zu icons, %d findings\n",
                 ids.dialogs().size(), ids.strings().size(), ids.icons().size(), findings);
     return findings == 0 ? 0 : 1;
 }

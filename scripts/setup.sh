@@ -1,12 +1,19 @@
 # shellcheck shell=bash
 # Sourced by run.sh and test.sh: what a machine needs before it can build, the build, and
-# Wine. Each step says what it does in one line.
+# Wine. Each step says in one line what it does, and in one how long it took; ctest does that by
+# itself.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit
 unset WINEPREFIX # the user's own Wine programs are none of ours
 
 say() { printf '== %s\n' "$*"; }
+# took STEP: the time since the step before.
+ended=$SECONDS
+took() {
+  say "$1 took $((SECONDS - ended)) s"
+  ended=$SECONDS
+}
 die() {
   printf '%s: %s\n' "${0##*/}" "$*" >&2
   exit 1
@@ -43,6 +50,7 @@ install_packages() {
     die "could not install ${missing[*]}: $(grep '^[EW]: ' build/packages.log | tail -n 1)" \
       "(all of it is in build/packages.log)"
   fi
+  took "Installing"
 }
 
 # build PRESET: configures once, then builds what has changed.
@@ -50,16 +58,20 @@ build() {
   if [ ! -f "build/$1/build.ninja" ]; then
     say "Configuring build/$1"
     if command -v ccache >/dev/null; then
-      export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+      # By itself it keeps nothing that was compiled over precompiled headers.
+      local launcher='env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache'
+      export CMAKE_C_COMPILER_LAUNCHER=$launcher CMAKE_CXX_COMPILER_LAUNCHER=$launcher
     fi
     cmake --preset "$1" >"build/configure.log" 2>&1 ||
       { cat build/configure.log >&2 && die "cmake could not configure build/$1"; }
+    took "Configuring"
   fi
   say "Building build/$1"
   # A terminal shows ninja's progress; a log would get a line for each file.
   local quiet=(--quiet)
   [ ! -t 1 ] || quiet=()
   cmake --build --preset "$1" --parallel "$jobs" -- "${quiet[@]}" || die "the build failed"
+  took "Building"
 }
 
 # Wine ready and its server warm until this script ends.
@@ -69,6 +81,7 @@ start() {
   . scripts/wine-env.sh
   trap stop_wine EXIT
   start_wine
+  took "Starting Wine"
 }
 
 mkdir -p build

@@ -1,26 +1,32 @@
-# cuadros_test(<folder> SOURCES <file>... SUITES <suite>... [LIBS <target>...])
+# cuadros_test(<name> [SOURCES <file>...] [LIBS <target>...])
 #
-# Makes the test program <folder>_test and one ctest entry per suite, <folder>.<suite>. A
-# further entry, <folder>.suites, fails unless SUITES names exactly the suites that the
-# program has, so that none is silently never run.
-function(cuadros_test folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;SUITES;LIBS")
+# Makes the test program <name>_test of every *Test.cpp of the folder, and of the other SOURCES.
+# Each *Test.cpp is one ctest entry: DialogTest.cpp is <name>.Dialog. A further entry,
+# <name>.sources, fails unless every test stands in one of them, so that none is silently never
+# run.
+function(cuadros_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBS")
   if(arg_UNPARSED_ARGUMENTS)
-    message(FATAL_ERROR "cuadros_test(${folder}): what is ${arg_UNPARSED_ARGUMENTS}?")
+    message(FATAL_ERROR "cuadros_test(${name}): what is ${arg_UNPARSED_ARGUMENTS}?")
   endif()
 
-  set(program ${folder}_test)
+  set(program ${name}_test)
+  file(GLOB tests CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *Test.cpp)
   # The manifest makes the program's controls those of the current common controls.
-  add_executable(${program} ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/kit/manifest.rc)
+  add_executable(${program} ${tests} ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/kit/manifest.rc)
   target_link_libraries(${program} PRIVATE ${arg_LIBS} kit cuadros_options)
+  if(arg_LIBS MATCHES "kit_app|afx_app_module")
+    target_precompile_headers(${program} REUSE_FROM kit_app)
+  else()
+    target_precompile_headers(${program} REUSE_FROM kit)
+  endif()
 
-  foreach(suite ${arg_SUITES})
-    # A suite of value or type parameters has its name between slashes.
-    cuadros_add_test(${folder}.${suite} ${program}
-                     "--gtest_filter=${suite}.*:*/${suite}.*:${suite}/*.*:*/${suite}/*.*")
+  foreach(source ${tests})
+    string(REGEX REPLACE "Test.cpp$" "" stem ${source})
+    cuadros_add_test(${name}.${stem} ${program} --kit-source=${source})
   endforeach()
-  list(JOIN arg_SUITES "," names)
-  cuadros_add_test(${folder}.suites ${program} "--kit-suites=${names}")
+  list(JOIN tests "," names)
+  cuadros_add_test(${name}.sources ${program} --kit-sources=${names})
 endfunction()
 
 # One ctest entry that runs a Windows program.

@@ -6,40 +6,24 @@ set(package lib/cmake/Cuadros)
 set(dlls bin)
 
 install(
-  TARGETS cuadros cotana afxrt afx_app_module
+  TARGETS cuadros cotana afx_app_module
   EXPORT CuadrosTargets
   RUNTIME DESTINATION bin
-  LIBRARY DESTINATION bin
   ARCHIVE DESTINATION lib
-  OBJECTS DESTINATION lib)
+  FILE_SET HEADERS DESTINATION include
+  FILE_SET umbrella DESTINATION include)
+install(
+  TARGETS afxrt
+  EXPORT CuadrosTargets
+  RUNTIME DESTINATION bin
+  ARCHIVE DESTINATION lib
+  FILE_SET HEADERS DESTINATION include/framework)
 set_target_properties(cuadros PROPERTIES EXPORT_NAME Cuadros)
-# The host's code sees the character set for which the library was built.
-target_compile_definitions(afxrt INTERFACE $<INSTALL_INTERFACE:UNICODE>
-                                           $<INSTALL_INTERFACE:_UNICODE>)
 
 install(
   FILES ${CUADROS_BINARY_DIR}/CuadrosENU.dll ${CUADROS_BINARY_DIR}/CuadrosLOC.dll
         ${CUADROS_COMPILER_RUNTIME}
   DESTINATION bin)
-
-install(DIRECTORY framework/include/ DESTINATION include/framework)
-install(
-  DIRECTORY host/cotana
-  DESTINATION include
-  FILES_MATCHING
-  PATTERN "*.h")
-# Of the library only what is exported, with the numbers of its controls and texts.
-install(
-  DIRECTORY cuadros
-  DESTINATION include
-  FILES_MATCHING
-  PATTERN "Cuadros.h"
-  PATTERN "Exporta.h"
-  PATTERN "Data*.h"
-  PATTERN "*Dlg.h"
-  PATTERN "*Ids.h"
-  PATTERN "icons" EXCLUDE
-  PATTERN "en-US" EXCLUDE)
 
 install(EXPORT CuadrosTargets NAMESPACE Cuadros:: DESTINATION ${package})
 configure_package_config_file(cmake/CuadrosConfig.cmake.in CuadrosConfig.cmake

@@ -33,3 +33,25 @@ if(MINGW)
 else()
   target_compile_options(cuadros_options INTERFACE /W4 /utf-8)
 endif()
+
+# For folders whose programs run in the build and its tests only: quick to compile, with the line
+# numbers that a stack needs.
+set(CUADROS_QUICK $<$<AND:$<COMPILE_LANGUAGE:C,CXX>,$<CONFIG:RelWithDebInfo>>:-O0>
+                  $<$<AND:$<COMPILE_LANGUAGE:C,CXX>,$<CONFIG:RelWithDebInfo>>:-g1>)
+
+# The target's sources have the framework's headers precompiled. With genuine MFC, which then has
+# the names of these targets, nothing is.
+function(cuadros_precompile target)
+  if(CUADROS_FRAMEWORK STREQUAL "runtime")
+    target_precompile_headers(${target} REUSE_FROM afx_app_module)
+  endif()
+endfunction()
+
+# The test contract.headers compiles each public header of the target alone. At the end of a
+# CMakeLists.txt: the options are for that compilation, which CMake makes last of all.
+function(cuadros_check_headers target)
+  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  if(MINGW)
+    add_compile_options(-Wall -Wextra -Werror -O0 -g0)
+  endif()
+endfunction()

@@ -2,12 +2,12 @@
 
 #include <cstring>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 PortableExecutable::PortableExecutable(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    m_bytes.assign(std::istreambuf_iterator<char>(stream), {});
+    m_bytes.resize(std::filesystem::file_size(file));
+    std::ifstream(file, std::ios::binary)
+        .read(m_bytes.data(), static_cast<std::streamsize>(m_bytes.size()));
     const auto newHeader = static_cast<std::size_t>(at<IMAGE_DOS_HEADER>(0).e_lfanew);
     m_headers = at<IMAGE_NT_HEADERS64>(newHeader);
     if (m_headers.Signature != IMAGE_NT_SIGNATURE ||

@@ -180,11 +180,25 @@ TEST(Process, DISABLED_FailsFatallyInAStep) {
     script.run([&] { return dialog.open(); });
 }
 
-TEST(Process, NamesTheSuitesThatAreMissingOrUnknown) {
-    const Child child(L"--kit-suites=Process,Unknown");
+TEST(Process, RunsTheTestsOfOneSource) {
+    const Child child(L"--kit-source=HandlesTest.cpp");
+    EXPECT_EQ(child.exitCode, 0U);
+    EXPECT_TRUE(contains(child.output, "OK ] Handles."));
+    EXPECT_TRUE(contains(child.output, "OK ] HeapUse."));
+    EXPECT_EQ(child.output.find("Script."), std::string::npos) << child.output;
+}
+
+TEST(Process, FailsWhenASourceHasNoTests) {
+    const Child child(L"--kit-source=RawDialog.cpp");
     EXPECT_EQ(child.exitCode, 1U);
-    EXPECT_TRUE(contains(child.output, "The suite Script is never run"));
-    EXPECT_TRUE(contains(child.output, "the suite Unknown, which does not exist"));
+    EXPECT_TRUE(contains(child.output, "No test stands in RawDialog.cpp."));
+}
+
+TEST(Process, NamesTheTestsThatNoSourceRuns) {
+    const Child child(L"--kit-sources=HandlesTest.cpp,ProcessTest.cpp");
+    EXPECT_EQ(child.exitCode, 1U);
+    EXPECT_TRUE(contains(child.output, "no entry names ScriptTest.cpp: Script."));
+    EXPECT_EQ(child.output.find("Handles."), std::string::npos) << child.output;
 }
 
 TEST(Process, HasADesktopOfItsOwn) {

@@ -11,7 +11,9 @@ namespace kit {
 /// failures of the driver reported to GoogleTest, and after each test the heap whole and no
 /// window left over. Programs that link `kit` have this as their main already.
 ///
-/// `--kit-suites=A,B` runs nothing, but fails unless A and B are exactly the program's suites.
+/// `--kit-source=ATest.cpp` runs the tests of that source, and fails when it has none;
+/// `--kit-sources=ATest.cpp,BTest.cpp` runs nothing, but fails unless each test stands in one of
+/// these.
 int main(int argc, char** argv);
 
 } // namespace kit

@@ -1,5 +1,5 @@
 # Installs the built project, moves the result elsewhere, and builds and runs a consumer of it:
-#   cmake -D BUILD=... -D WORK=... -D TOOLCHAIN=... -D EMULATOR=... -P run.cmake
+#   cmake -D BUILD=... -D LISTS=... -D WORK=... -D TOOLCHAIN=... -D EMULATOR=... -P run.cmake
 function(run)
   execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -13,6 +13,25 @@ foreach(name CuadrosENU CuadrosLOC CuadrosAfx Cotana Cuadros libstdc++-6)
     message(FATAL_ERROR "${name}.dll is not installed")
   endif()
 endforeach()
+
+# Of the library's headers a host gets those of what is exported, and no other.
+include(${LISTS})
+set(expected Cuadros.h frame/Exporta.h)
+foreach(kind DIALOGS SHEETS PAGES RECORDS)
+  foreach(piece ${${kind}})
+    string(REGEX REPLACE "/.*/" "/" header ${piece}.h)
+    list(APPEND expected ${header})
+  endforeach()
+endforeach()
+file(GLOB_RECURSE headers RELATIVE "${WORK}/moved elsewhere/include/cuadros"
+     "${WORK}/moved elsewhere/include/cuadros/*")
+list(FILTER headers EXCLUDE REGEX "^resources/[A-Za-z]+Ids\\.h$")
+list(SORT headers)
+list(SORT expected)
+if(NOT headers STREQUAL expected)
+  message(FATAL_ERROR "Installed of the library: ${headers}\nexpected: ${expected}")
+endif()
+
 file(GLOB_RECURSE written "${WORK}/moved elsewhere/*.cmake")
 foreach(file ${written})
   file(READ ${file} text)

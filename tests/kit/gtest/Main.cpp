@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -36,42 +37,47 @@ class AfterEachTest : public testing::EmptyTestEventListener {
     std::vector<HWND> before_;
 };
 
-/// The program's suites, as the sources name them: those with parameters have the names of
-/// their instances around, between slashes.
-std::set<std::string> suitesOf(const testing::UnitTest& tests, const std::set<std::string>& named) {
-    std::set<std::string> suites;
-    for (int i = 0; i < tests.total_test_suite_count(); ++i) {
-        std::istringstream parts(tests.GetTestSuite(i)->name());
-        std::string suite = parts.str();
-        for (std::string part; std::getline(parts, part, '/');)
-            if (named.contains(part))
-                suite = part;
-        suites.insert(suite);
+/// The program's tests, for each source the names that a filter takes.
+std::map<std::string, std::string> testsBySource(const testing::UnitTest& program) {
+    std::map<std::string, std::string> tests;
+    for (int i = 0; i < program.total_test_suite_count(); ++i) {
+        const testing::TestSuite& suite = *program.GetTestSuite(i);
+        for (int j = 0; j < suite.total_test_count(); ++j) {
+            const testing::TestInfo& test = *suite.GetTestInfo(j);
+            const std::string path = test.file();
+            tests[path.substr(path.find_last_of("/\\") + 1)] +=
+                std::string(suite.name()) + "." + test.name() + ":";
+        }
     }
-    return suites;
+    return tests;
 }
 
-/// Whether the names (with commas between) are exactly the program's suites; prints what is
-/// not so.
-bool suitesAreExactly(const std::string& list) {
+/// Chooses the tests of one source; false when there is none.
+bool chooseSource(const std::string& source) {
+    const auto tests = testsBySource(*testing::UnitTest::GetInstance());
+    const auto chosen = tests.find(source);
+    if (chosen == tests.end()) {
+        std::cout << "No test stands in " << source << ".\n";
+        return false;
+    }
+    testing::GTEST_FLAG(filter) = chosen->second;
+    return true;
+}
+
+/// Whether every test of the program stands in one of the sources (with commas between); prints
+/// which do not.
+bool sourcesAreAll(const std::string& list) {
     std::set<std::string> named;
     std::istringstream parts(list);
     for (std::string part; std::getline(parts, part, ',');)
         named.insert(part);
-    const std::set<std::string> present = suitesOf(*testing::UnitTest::GetInstance(), named);
-
-    bool same = true;
-    for (const std::string& suite : present)
-        if (!named.contains(suite)) {
-            std::cout << "The suite " << suite << " is never run: SUITES does not name it.\n";
-            same = false;
+    bool all = true;
+    for (const auto& [source, tests] : testsBySource(*testing::UnitTest::GetInstance()))
+        if (!named.contains(source)) {
+            std::cout << "Never run, since no entry names " << source << ": " << tests << "\n";
+            all = false;
         }
-    for (const std::string& suite : named)
-        if (!present.contains(suite)) {
-            std::cout << "SUITES names the suite " << suite << ", which does not exist.\n";
-            same = false;
-        }
-    return same;
+    return all;
 }
 
 /// scripts/wine-run.sh knows it: nothing has run yet, and it tries once more.
@@ -87,15 +93,20 @@ bool canShowWindows() {
 
 int main(int argc, char** argv) {
     endOnFault();
+    testing::InitGoogleTest(&argc, argv);
+    constexpr std::string_view source = "--kit-source=";
+    constexpr std::string_view sources = "--kit-sources=";
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument.starts_with(sources))
+            return sourcesAreAll(argv[i] + sources.size()) ? EXIT_SUCCESS : EXIT_FAILURE;
+        if (argument.starts_with(source) && !chooseSource(argv[i] + source.size()))
+            return EXIT_FAILURE;
+    }
     if (!useOwnDesktop() || !canShowWindows()) {
         std::cerr << "No window can be made here: the display or its driver is missing.\n";
         return noWindowExitCode;
     }
-    testing::InitGoogleTest(&argc, argv);
-    constexpr std::string_view suites = "--kit-suites=";
-    for (int i = 1; i < argc; ++i)
-        if (std::string_view(argv[i]).starts_with(suites))
-            return suitesAreExactly(argv[i] + suites.size()) ? EXIT_SUCCESS : EXIT_FAILURE;
 
     setReporter({.fail =
                      [](const std::string& message, const Where& where) {

@@ -1,7 +1,7 @@
 // A host has a dialog of its own under a number of the library's. The host's comes first in the
 // chain of resources, on purpose: the library's dialog finds it, lacks its controls, says so and
 // ends.
-#include "Apertura.h"
+#include "../Apertura.h"
 
 #include "cuadros/resources/TriangulationIds.h"
 #include "cuadros/triangulation/TriangulacionDlg.h"

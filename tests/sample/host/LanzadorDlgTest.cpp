@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "DrawingsFolder.h"
+#include "../DrawingsFolder.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "sample/EjemploIds.h"
 #include "sample/terrain/AscGridFile.h"

@@ -41,7 +41,8 @@ class Conversacion {
 public:
     virtual ~Conversacion() = default;
 
-    virtual INT_PTR DoModal() = 0;
+    virtual CDialog& Dialogo() = 0;
+    INT_PTR DoModal() { return Dialogo().DoModal(); }
     /// The exchanges since the last call, as of `ConIntercambios`.
     virtual std::string Intercambios() = 0;
     /// Calls the dialog's handler of a request for help.
@@ -77,7 +78,7 @@ public:
         m_Dialogo.conversacion = this;
     }
 
-    INT_PTR DoModal() override { return m_Dialogo.DoModal(); }
+    CDialog& Dialogo() override { return m_Dialogo; }
     std::string Intercambios() override { return m_Dialogo.Intercambios(); }
     BOOL PideAyuda() override { return m_Dialogo.PideAyuda(); }
 

@@ -2,8 +2,8 @@
 // user reads that his text is no number. What comes then is not nice, but the host lives on: a
 // dialog goes on without what it lacks, or ends with -1.
 #include "Apertura.h"
-#include "Dialogos.h"
 #include "Plantilla.h"
+#include "dialogs/Caso.h"
 
 #include "kit/app/RecordingApp.h"
 #include "kit/kit.h"
@@ -19,22 +19,19 @@ bool TieneFin(INT_PTR resultado) {
     return resultado == -1 || resultado == IDOK || resultado == IDCANCEL;
 }
 
-class DialogosRotos : public testing::TestWithParam<Dialogo> {
+class DialogosRotos : public testing::TestWithParam<Caso> {
 protected:
     /// Opens the dialog from this template and uses it, OK included.
     static INT_PTR Usa(const Plantilla& plantilla) {
-        INT_PTR resultado = 0;
-        GetParam().hazlo(nullptr, [&](CDialog& dialogo) {
-            dialogo.InitModalIndirect(plantilla.Datos());
-            Apertura apertura(dialogo);
-            resultado = apertura.Ejecuta([](HWND ventana) {
-                UsaControles(ventana);
-                SendMessageW(ventana, WM_HELP, 0, 0);
-                SendMessageW(ventana, WM_COMMAND, ID_HELP, 0);
-                SendMessageW(ventana, WM_COMMAND, IDOK, 0);
-            });
+        const auto conversacion = GetParam().hazla(nullptr);
+        conversacion->Dialogo().InitModalIndirect(plantilla.Datos());
+        Apertura apertura(conversacion->Dialogo());
+        return apertura.Ejecuta([](HWND ventana) {
+            UsaControles(ventana);
+            SendMessageW(ventana, WM_HELP, 0, 0);
+            SendMessageW(ventana, WM_COMMAND, ID_HELP, 0);
+            SendMessageW(ventana, WM_COMMAND, IDOK, 0);
         });
-        return resultado;
     }
 
     /// Opens the dialog, writes letters into all its edits, and presses the button of this place
@@ -44,37 +41,37 @@ protected:
     template <class AlAbrirse>
     static bool Pulsa(CWnd* padre, std::size_t lugar, AlAbrirse alAbrirse) {
         bool esta = false;
-        GetParam().hazlo(padre, [&](CDialog& dialogo) {
-            Apertura apertura(dialogo);
-            apertura.alPrimerAviso = [&] { alAbrirse(dialogo); };
-            const INT_PTR resultado = apertura.Ejecuta([&](HWND ventana) {
-                std::vector<HWND> botones;
-                for (HWND control = GetWindow(ventana, GW_CHILD); control != nullptr;
-                     control = GetWindow(control, GW_HWNDNEXT))
-                    if (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)
-                        botones.push_back(control);
-                esta = lugar < botones.size();
-                if (!esta)
-                    return;
-                kit::app.cancelFilePrompt(); // where the button asks for a file all the same
-                EscribeLetras(ventana);
-                if (IsWindow(ventana))
-                    SendMessageW(botones[lugar], BM_CLICK, 0, 0);
-            });
-            EXPECT_TRUE(TieneFin(resultado)) << resultado << ", button " << lugar;
-            EXPECT_EQ(dialogo.m_hWnd, nullptr);
+        const auto conversacion = GetParam().hazla(padre);
+        CDialog& dialogo = conversacion->Dialogo();
+        Apertura apertura(dialogo);
+        apertura.alPrimerAviso = [&] { alAbrirse(dialogo); };
+        const INT_PTR resultado = apertura.Ejecuta([&](HWND ventana) {
+            std::vector<HWND> botones;
+            for (HWND control = GetWindow(ventana, GW_CHILD); control != nullptr;
+                 control = GetWindow(control, GW_HWNDNEXT))
+                if (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)
+                    botones.push_back(control);
+            esta = lugar < botones.size();
+            if (!esta)
+                return;
+            kit::app.cancelFilePrompt(); // where the button asks for a file all the same
+            EscribeLetras(ventana);
+            if (IsWindow(ventana))
+                SendMessageW(botones[lugar], BM_CLICK, 0, 0);
         });
+        EXPECT_TRUE(TieneFin(resultado)) << resultado << ", button " << lugar;
+        EXPECT_EQ(dialogo.m_hWnd, nullptr);
         return esta;
     }
 };
 
-std::string Nombre(const testing::TestParamInfo<Dialogo>& caso) {
+std::string Nombre(const testing::TestParamInfo<Caso>& caso) {
     return caso.param.nombre;
 }
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(All, DialogosRotos, testing::ValuesIn(Dialogos()), Nombre);
+INSTANTIATE_TEST_SUITE_P(All, DialogosRotos, testing::ValuesIn(Casos()), Nombre);
 
 TEST_P(DialogosRotos, LiveOnWithoutAnyOneOfTheirControls) {
     const std::vector<int> controles = Plantilla(GetParam().plantilla).Controles();

@@ -12,6 +12,7 @@
 #include "window_text.h"
 
 #include <algorithm>
+#include <mutex>
 #include <set>
 #include <string>
 
@@ -207,6 +208,7 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
                                    HICON hIcon) {
     // Never destroyed: callers keep pointers to the names.
     static std::set<std::wstring>& names = *new std::set<std::wstring>;
+    static std::mutex& oneThread = *new std::mutex;
     const HINSTANCE instance = AfxGetInstanceHandle();
     CString name;
     name.Format(L"Afx:%p:%x:%p:%p:%p", instance, nClassStyle, hCursor, hbrBackground, hIcon);
@@ -218,6 +220,7 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     windowClass.hCursor = hCursor ? hCursor : ::LoadCursor(nullptr, IDC_ARROW);
     windowClass.hbrBackground = hbrBackground;
     windowClass.lpszClassName = name;
+    const std::lock_guard<std::mutex> lock(oneThread);
     if (!AfxRegisterClass(&windowClass))
         AfxThrowResourceException();
     return names.insert(name.GetString()).first->c_str();

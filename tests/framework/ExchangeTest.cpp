@@ -4,6 +4,7 @@
 
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -417,6 +418,96 @@ TEST(ExchangeOfButtons, AnEqualStateIsNotSetAgain) {
         d.press(IDCANCEL);
     });
     EXPECT_EQ(script.run([&] { return dialog.DoModal(); }), IDCANCEL);
+}
+
+TEST(ExchangeOfButtons, AGroupIsWhatItsButtonsAreNow) {
+    FieldsDialog dialog;
+    int index = 2;
+    dialog.exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_A, index); };
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    const auto exchanged = [&] {
+        EXPECT_TRUE(dialog.UpdateData(TRUE));
+        return index;
+    };
+    EXPECT_EQ(exchanged(), 2);
+    dialog.GetDlgItem(IDC_RADIO_B)->ModifyStyle(BS_TYPEMASK, BS_AUTOCHECKBOX);
+    EXPECT_EQ(exchanged(), 1);
+    dialog.GetDlgItem(IDC_RADIO_B)->ModifyStyle(BS_TYPEMASK, BS_AUTORADIOBUTTON);
+    EXPECT_EQ(exchanged(), 2);
+    dialog.GetDlgItem(IDC_RADIO_B)->DestroyWindow();
+    EXPECT_EQ(exchanged(), 1);
+    dialog.DestroyWindow();
+}
+
+// Asked what it is, begins an exchange of its own.
+class Asking : public CWnd {
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_GETDLGCODE && !std::exchange(m_asking, true)) {
+            static_cast<FieldsDialog*>(GetParent())->exchange = [](CDataExchange*) {};
+            EXPECT_TRUE(GetParent()->UpdateData(TRUE));
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    bool m_asking = false;
+};
+
+TEST(ExchangeOfButtons, AButtonMayExchangeWhenItIsAsked) {
+    FieldsDialog dialog;
+    int index = 1;
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    Asking asking;
+    ASSERT_TRUE(asking.SubclassDlgItem(IDC_RADIO_A, &dialog));
+    const auto exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_A, index); };
+    CDataExchange show(&dialog, FALSE);
+    exchange(&show);
+    index = 5;
+    CDataExchange read(&dialog, TRUE);
+    exchange(&read);
+    EXPECT_EQ(index, 1);
+    dialog.DestroyWindow();
+}
+
+TEST(ExchangeOfControls, FindsThemByTheirNumbersOfNow) {
+    FieldsDialog dialog;
+    CString name = L"first";
+    dialog.exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_NAME, name); };
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    dialog.SetDlgItemText(IDC_DOUBLE, L"second");
+    CWnd* const before = dialog.GetDlgItem(IDC_NAME);
+    CWnd* const other = dialog.GetDlgItem(IDC_DOUBLE);
+    before->SetDlgCtrlID(IDC_DOUBLE);
+    other->SetDlgCtrlID(IDC_NAME);
+    EXPECT_TRUE(dialog.UpdateData(TRUE));
+    EXPECT_STREQ(name, L"second");
+
+    other->DestroyWindow();
+    CWnd next;
+    ASSERT_TRUE(next.Create(L"Edit", L"third", WS_CHILD, CRect(0, 0, 9, 9), &dialog, IDC_NAME));
+    EXPECT_TRUE(dialog.UpdateData(TRUE));
+    EXPECT_STREQ(name, L"third");
+    dialog.DestroyWindow();
+}
+
+// Has no text, and says so as a list box without a choice does.
+class Textless : public CWnd {
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == WM_GETTEXT ? LB_ERR : CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(ExchangeOfControls, OneWithoutATextHasAnEmptyOne) {
+    FieldsDialog dialog;
+    CString name = L"before";
+    ASSERT_TRUE(dialog.Create(IDD_FIELDS));
+    Textless control;
+    ASSERT_TRUE(control.SubclassDlgItem(IDC_NAME, &dialog));
+    dialog.exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, IDC_NAME, name); };
+    EXPECT_TRUE(dialog.UpdateData(TRUE));
+    EXPECT_STREQ(name, L"");
+    dialog.DestroyWindow();
 }
 
 TEST(ExchangeOfBoxes, ACombosIndexIsItsSelectionAndMinusOneWithoutOne) {

@@ -100,6 +100,23 @@ TEST(UiThreads, ADialogWithoutParentIsOwnedByTheThreadsActiveWindow) {
     });
 }
 
+TEST(UiThreads, WindowsOfManyClassesAreMadeOnTwoOfThemAtOnce) {
+    const auto make = [] {
+        for (int width = 1; width <= 200; ++width) {
+            // A class of its own: its background is a brush that the other thread does not have.
+            const HBRUSH background = ::CreateSolidBrush(RGB(1, 2, 3));
+            const LPCTSTR name = AfxRegisterWndClass(0, nullptr, background);
+            WNDCLASS registered;
+            EXPECT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), name, &registered));
+            EXPECT_EQ(registered.hbrBackground, background);
+            EXPECT_TRUE(::UnregisterClass(name, AfxGetInstanceHandle())); // the brush with it
+        }
+    };
+    std::thread thread(make);
+    make();
+    thread.join();
+}
+
 // Meanwhile on both.
 TEST(UiThreads, ManyDialogsOnTwoOfThemAtOnce) {
     MainWindow main;

@@ -421,7 +421,7 @@ TEST(Listas, SelectionIsWalkedInTheOrderOfTheRows) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) { AbreConFilas(prueba, 5); });
     dialogo.AlAceptar([](CDialogoPrueba& prueba) {
         EXPECT_EQ(Recorridas(prueba.m_Lista, 5), (std::vector<unsigned int>{0, 2, 4}));
-        const std::vector<unsigned int> salteadas = {0, 2, 4};
+        const std::vector<int> salteadas = {0, 2, 4};
         EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), salteadas);
         // Of a shorter table only the entries that it has.
         EXPECT_EQ(Recorridas(prueba.m_Lista, 4), (std::vector<unsigned int>{0, 2}));
@@ -441,12 +441,12 @@ TEST(Listas, SelectionMayBeAnyRows) {
     CDialogoPrueba dialogo([](CDialogoPrueba& prueba) {
         AbreConFilas(prueba, filas);
         for (unsigned int bits = 0; bits < 1U << filas; ++bits) {
-            std::vector<unsigned int> elegidas;
+            std::vector<int> elegidas;
             for (int i = 0; i < filas; ++i) {
                 const bool elegida = (bits >> i & 1U) != 0;
                 prueba.m_Lista.SetItemState(i, elegida ? LVIS_SELECTED : 0U, LVIS_SELECTED);
                 if (elegida)
-                    elegidas.push_back(static_cast<unsigned int>(i));
+                    elegidas.push_back(i);
             }
             EXPECT_EQ(Cuadros::FilasSeleccionadas(prueba.m_Lista), elegidas);
         }

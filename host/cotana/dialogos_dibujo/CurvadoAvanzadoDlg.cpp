@@ -48,8 +48,10 @@ BOOL CCurvadoAvanzadoDlg::OnInitDialog() {
 }
 
 void CCurvadoAvanzadoDlg::HabilitaValores() {
-    for (const int control : {IDC_CURVADO_AVANZADO_VALOR_1, IDC_CURVADO_AVANZADO_VALOR_2})
-        GetDlgItem(control)->EnableWindow(!m_PorEscala);
+    for (const int numero : {IDC_CURVADO_AVANZADO_VALOR_1, IDC_CURVADO_AVANZADO_VALOR_2}) {
+        if (CWnd* const control = GetDlgItem(numero))
+            control->EnableWindow(!m_PorEscala);
+    }
 }
 
 void CCurvadoAvanzadoDlg::OnPorEscala() {

@@ -9,7 +9,6 @@
 #include "../DrawingsFolder.h"
 #include "cuadros/resources/TriangulationIds.h"
 #include "sample/EjemploIds.h"
-#include "sample/terrain/AscGridFile.h"
 
 namespace {
 
@@ -27,7 +26,7 @@ void Elige(const kit::Dialog& lanzador, const wchar_t* titulo) {
 class Lanzador : public testing::Test {
 protected:
     Lanzador() {
-        EXPECT_EQ(ReadAscGridFile(HILLS_FILE, terreno.modelo), L"");
+        terreno.modelo = ElevationGrid(2, 10, {437200, 4486300}, {100, 120, 110, 130});
         terreno.carpetaDibujos = carpeta.Name();
         terreno.curvado.m_Equidistancia = 5;
         terreno.curvado.m_EquidistanciaMaestra = 25;

@@ -1,9 +1,9 @@
 # cuadros_test(<name> [SOURCES <file>...] [LIBS <target>...])
 #
 # Makes the test program <name>_test of every *Test.cpp of the folder, and of the other SOURCES.
-# Each *Test.cpp is one ctest entry: DialogTest.cpp is <name>.Dialog. A further entry,
-# <name>.sources, fails unless every test stands in one of them, so that none is silently never
-# run.
+# Each *Test.cpp is one ctest entry: DialogTest.cpp is <name>.Dialog. So is a header among SOURCES,
+# whose tests several of them share. A further entry, <name>.sources, fails unless every test stands
+# in one of them, so that none is silently never run.
 function(cuadros_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBS")
   if(arg_UNPARSED_ARGUMENTS)
@@ -21,8 +21,10 @@ function(cuadros_test name)
     target_precompile_headers(${program} REUSE_FROM kit)
   endif()
 
+  list(FILTER arg_SOURCES INCLUDE REGEX "\\.h$")
+  list(APPEND tests ${arg_SOURCES})
   foreach(source ${tests})
-    string(REGEX REPLACE "Test.cpp$" "" stem ${source})
+    string(REGEX REPLACE "(Test.cpp|.h)$" "" stem ${source})
     cuadros_add_test(${name}.${stem} ${program} --kit-source=${source})
   endforeach()
   list(JOIN tests "," names)

@@ -15,8 +15,13 @@ constexpr DWORD OpcionesAbrir = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
 constexpr DWORD OpcionesGuardar = OFN_CREATEPROMPT | OFN_OVERWRITEPROMPT;
 constexpr DWORD OpcionesVarios = OpcionesAbrir | OFN_EXPLORER | OFN_ALLOWMULTISELECT;
 
+/// The host's application object; null where it is of another class.
+Cotana::CAplicacion* Aplicacion() {
+    return dynamic_cast<Cotana::CAplicacion*>(AfxGetApp());
+}
+
 BOOL PideFichero(CString& nombre, DWORD opciones, BOOL abrir, CDocTemplate** plantilla, int clase) {
-    auto* const aplicacion = dynamic_cast<Cotana::CAplicacion*>(AfxGetApp());
+    Cotana::CAplicacion* const aplicacion = Aplicacion();
     if (aplicacion == nullptr)
         return FALSE;
     // Kept: the host is handed the title of opening also where it saves.
@@ -36,6 +41,11 @@ BOOL PideFicheroGuardar(CString& nombre, CDocTemplate** plantilla, int clase) {
 
 BOOL PideVariosFicheros(CString& nombres, CDocTemplate** plantilla, int clase) {
     return PideFichero(nombres, OpcionesVarios, TRUE, plantilla, clase);
+}
+
+CDocTemplate* PlantillaActual() {
+    const Cotana::CAplicacion* const aplicacion = Aplicacion();
+    return aplicacion ? aplicacion->PlantillaActual() : nullptr;
 }
 
 bool PideFicheroAlSistema(CString& nombre, UINT filtro) {

@@ -30,6 +30,11 @@ BOOL PideFicheroGuardar(CString& nombre, CDocTemplate** plantilla, int clase = 0
 /// @return nonzero when the user confirmed.
 BOOL PideVariosFicheros(CString& nombres, CDocTemplate** plantilla, int clase = 0);
 
+/// The template of the document in which the host's user works, for a dialog that keeps it when it
+/// is constructed; null where there is none, and where the host's application object is none of
+/// `Cotana::CAplicacion`.
+CDocTemplate* PlantillaActual();
+
 /// Asks for a file to write, as `PideFicheroGuardar`, but by the system's own dialog.
 ///
 /// @param nombre the name shown at first; the whole path of the chosen one afterwards.

@@ -1,10 +1,6 @@
 #include "cuadros/import/Ajustes.h"
 
-#include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
-#include <type_traits>
+#include "cuadros/frame/Numeros.h"
 
 namespace Cuadros {
 
@@ -13,27 +9,14 @@ namespace {
 /// Room for a value in a file, with the zero that ends it.
 constexpr int LargoValor = 256;
 
-_locale_t LocalC() {
-    static const std::unique_ptr<std::remove_pointer_t<_locale_t>, decltype(&_free_locale)> local(
-        _create_locale(LC_ALL, "C"), &_free_locale);
-    return local.get();
-}
-
+/// As `%lf` writes it.
 CString Texto(double valor) {
-    // At most a sign, 309 digits, the point and six decimals.
-    wchar_t texto[320];
-    _snwprintf_s_l(texto, _countof(texto), _TRUNCATE, L"%lf", LocalC(), valor);
-    return texto;
+    constexpr int decimales = 6;
+    return ConDecimales(valor, decimales);
 }
 
 CString Texto(int valor) {
-    CString texto;
-    texto.Format(L"%d", valor);
-    return texto;
-}
-
-double Numero(LPCTSTR texto) {
-    return _wtof_l(texto, LocalC());
+    return Entero(valor);
 }
 
 /// The text of a setting in a file; empty where it has none.
@@ -51,7 +34,7 @@ LectorPerfil::LectorPerfil(const CString& seccion)
 void LectorPerfil::operator()(LPCTSTR clave, double& valor) const {
     // Kept: the value itself is the default, as a text, so that a missing key rounds it.
     if (m_Aplicacion)
-        valor = Numero(m_Aplicacion->GetProfileString(m_Seccion, clave, Texto(valor)));
+        valor = LeeNumero(m_Aplicacion->GetProfileString(m_Seccion, clave, Texto(valor)));
 }
 
 void LectorPerfil::operator()(LPCTSTR clave, int& valor) const {
@@ -78,7 +61,7 @@ LectorFichero::LectorFichero(const CString& fichero, const CString& seccion)
 void LectorFichero::operator()(LPCTSTR clave, double& valor) const {
     const CString texto = Lee(m_Fichero, m_Seccion, clave);
     if (!texto.IsEmpty())
-        valor = Numero(texto);
+        valor = LeeNumero(texto);
 }
 
 void LectorFichero::operator()(LPCTSTR clave, int& valor) const {

@@ -6,6 +6,7 @@
 #include "cuadros/Cuadros.h"
 #include "cuadros/resources/ContoursIds.h"
 #include "cuadros/resources/IconIds.h"
+#include "cuadros/resources/ImportIds.h"
 #include "cuadros/resources/TriangulationIds.h"
 
 #include <shellapi.h>
@@ -53,6 +54,29 @@ auto CurvadoTriangulacion() {
     return std::tuple(2.5, CString(L"CV"));
 }
 
+auto ImportarGTOPO30() {
+    CDataImportarGTOPO30 data;
+    data.m_Paso.m_X = data.m_Paso.m_Y = 1;
+    return std::tuple(data, SW_SHOWNORMAL);
+}
+
+auto ImportarGrid() {
+    CDataImportarGrid data;
+    data.m_Paso.m_X = 1;
+    return std::tuple(data);
+}
+
+auto ProyectarDEM() {
+    CDataProyectaDEM data;
+    data.m_Informe = TRUE;
+    data.m_FicheroInforme = L"report.txt";
+    return std::tuple(data);
+}
+
+auto TipoProyeccion() {
+    return std::tuple(CDataTipoProyeccion{1, 1});
+}
+
 auto Suavizar() {
     CDataSuavizarTIN data;
     data.m_Iterar = TRUE;
@@ -96,6 +120,11 @@ const Caso::Rangos DeAvanzado = {{IDC_CURVADO_AVANZADO_VALOR_1, {L"0", L"1000000
 void BuscaLimite(kit::Dialog& dialogo) {
     kit::app.answerFilePrompt(L"edge.dat");
     dialogo.press(IDC_VECTORES_PENDIENTE_BUSCAR);
+}
+
+void BuscaProyeccion(kit::Dialog& dialogo) {
+    kit::app.answerFilePrompt(L"utm.prj");
+    dialogo.press(IDC_PROYECTAR_DEM_BUSCAR_PROYECCION);
 }
 
 void CambiaElSuavizado(kit::Dialog& dialogo) {
@@ -144,9 +173,13 @@ const std::vector<Caso>& Casos() {
         De<CCurvadoDlg>             (IDD_CURVADO,                IDI_CURVADO,         Propia(151165), No, Curvado, CambiaElSuavizado),
         De<CCurvadoTriangulacionDlg>(IDD_CURVADO_TRIANGULACION,  IDI_TRIANGULACION,   SinAyuda,       Si, CurvadoTriangulacion),
         De<CGenerarCasesDlg>        (IDD_GENERAR_CASES,          IDI_TRIANGULACION,   SinAyuda,       Si, Nuevos<std::vector<CString>, CDocTemplate*, double>, SumaYRestaFicheros),
+        De<CImportarGTOPO30Dlg>     (IDD_IMPORTAR_GTOPO30,       IDI_IMPORTAR_REJILLA,Propia(145115), No, ImportarGTOPO30),
+        De<CImportarGridDlg>        (IDD_IMPORTAR_GRID,          IDI_IMPORTAR_REJILLA,Propia(145125), No, ImportarGrid),
         De<CLimpiarRelieveDlg>      (IDD_LIMPIAR_RELIEVE,        IDI_LIMPIAR_RELIEVE, Propia(150073), No, Nuevos<CDataLimpiarRelieve>),
         De<CLimpiarRelieveRangoZDlg>(IDD_LIMPIAR_RELIEVE_RANGO_Z,IDI_LIMPIAR_RELIEVE, Propia(150139), Si, Nuevos<CDataLimpiarRelieveRangoZ>),
+        De<CProyectarDEMDlg>        (IDD_PROYECTAR_DEM,          SinIcono,            Propia(150393), Si, ProyectarDEM, BuscaProyeccion),
         De<CSuavizarTINDlg>         (IDD_SUAVIZAR_TIN,           IDI_TRIANGULACION,   Propia(151186), Si, Suavizar),
+        De<CTipoProyeccionDlg>      (IDD_TIPO_PROYECCION,        IDI_PROYECCION,      Propia(145391), No, TipoProyeccion),
         De<CTriangulacion2DDlg>     (IDD_TRIANGULACION_2D,       IDI_TRIANGULACION,   SinAyuda,       Si, Triangulacion2D, EligeTodas),
         De<CTriangulacion3DDiscoDlg>(IDD_TRIANGULACION_3D_DISCO, IDI_TRIANGULACION,   SinAyuda,       Si, Nuevos<std::vector<CString>, CDocTemplate*, double, int>, SumaYRestaFicheros),
         De<CTriangulacion3DDlg>     (IDD_TRIANGULACION_3D,       IDI_TRIANGULACION,   SinAyuda,       Si, Triangulacion3D, EligeTodas),

@@ -55,7 +55,11 @@ bool Parada::esCasilla() const {
 }
 
 bool Parada::esEdicion() const {
-    return EsDeClase(ventana, WC_EDITW);
+    return EsDeClase(ventana, WC_EDITW) && !(GetWindowLongW(ventana, GWL_STYLE) & ES_READONLY);
+}
+
+bool Parada::seLeeSuNombre() const {
+    return esBoton() || IsWindowVisible(GetWindow(ventana, GW_HWNDPREV));
 }
 
 bool Parada::conTabulador() const {
@@ -65,8 +69,8 @@ bool Parada::conTabulador() const {
 
 wchar_t Parada::letra() const {
     const auto donde = nombre.find(L'&');
-    return donde + 1 < nombre.size() ? static_cast<wchar_t>(std::towlower(nombre[donde + 1]))
-                                     : L'\0';
+    const bool hay = donde != std::wstring::npos && donde + 1 < nombre.size();
+    return hay ? static_cast<wchar_t>(std::towlower(nombre[donde + 1])) : L'\0';
 }
 
 std::vector<Parada> Recorrido(const kit::Dialog& dialogo) {

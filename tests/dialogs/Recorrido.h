@@ -14,7 +14,9 @@ struct Parada {
 
     bool esBoton() const;   ///< of any kind
     bool esCasilla() const; ///< a check box
-    bool esEdicion() const;
+    bool esEdicion() const; ///< one that can be typed into
+    /// Whether its name is seen: of some edits only a screen reader knows it.
+    bool seLeeSuNombre() const;
     /// Whether Tab stops at it: of the buttons of a radio group, at the chosen one.
     bool conTabulador() const;
     /// The letter that is underlined in its name, in lower case; 0 for none.

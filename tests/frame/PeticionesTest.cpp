@@ -90,12 +90,22 @@ TEST(Peticiones, OfAHostWithoutAPromptAreCancelled) {
         EXPECT_FALSE(Cuadros::PideFicheroAbrir(nombre, nullptr));
         EXPECT_FALSE(Cuadros::PideFicheroGuardar(nombre, nullptr));
         EXPECT_FALSE(Cuadros::PideVariosFicheros(nombre, nullptr));
+        EXPECT_EQ(Cuadros::PlantillaActual(), nullptr);
     }
     {
         const OtraAplicacion ninguna(nullptr);
         EXPECT_FALSE(Cuadros::PideFicheroAbrir(nombre, nullptr));
+        EXPECT_EQ(Cuadros::PlantillaActual(), nullptr);
     }
     EXPECT_EQ(nombre, L"typed.dat");
+}
+
+TEST(Peticiones, TakeTheTemplateFromTheHost) {
+    EXPECT_EQ(Cuadros::PlantillaActual(), nullptr);
+    auto* const plantilla = reinterpret_cast<CDocTemplate*>(&kit::app); // any address
+    kit::app.setDocumentTemplate(plantilla);
+    EXPECT_EQ(Cuadros::PlantillaActual(), plantilla);
+    kit::app.setDocumentTemplate(nullptr);
 }
 
 namespace {

@@ -23,6 +23,7 @@ void measureCycles(Bench& bench);
 void measureExchanges(Bench& bench);
 void measureLists(Bench& bench);
 void measureListDialogs(Bench& bench);
+void measureImports(Bench& bench);
 void measureRefusal(Bench& bench);
 void measureStart(Bench& bench);
 void measureSizes(Bench& bench);

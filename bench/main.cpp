@@ -2,7 +2,8 @@
 //
 //   bench [--quick] [--markdown] [SECTION...]
 //
-// SECTION     growth, cycles, exchanges, lists, list-dialogs, refusal, start, sizes: these only
+// SECTION     growth, cycles, exchanges, lists, list-dialogs, imports, refusal, start, sizes:
+//             these only
 // --quick     few cycles: shows that it runs, its times mean little
 // --markdown  prints the tables as docs/performance.md has them
 //
@@ -55,6 +56,7 @@ constexpr struct {
     {L"exchanges", bench::measureExchanges},
     {L"lists", bench::measureLists},
     {L"list-dialogs", bench::measureListDialogs},
+    {L"imports", bench::measureImports},
     {L"refusal", bench::measureRefusal},
     {L"start", bench::measureStart},
     {L"sizes", bench::measureSizes},

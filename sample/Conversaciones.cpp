@@ -20,6 +20,10 @@ static std::vector<const Conversacion*> Todas() {
     CONVERSACION(CurvadoTriangulacion);
     CONVERSACION(VectoresPendiente);
     CONVERSACION(CambiosPendienteTIN);
+    CONVERSACION(ImportarGrid);
+    CONVERSACION(ImportarGTOPO30);
+    CONVERSACION(TipoProyeccion);
+    CONVERSACION(ProyectarDEM);
     return todas;
 }
 

@@ -6,6 +6,7 @@
 #include "sample/ClassificationFile.h"
 #include "sample/CodeTableFile.h"
 #include "sample/Conversacion.h"
+#include "sample/ImportaTerreno.h"
 #include "sample/LanzadorDlg.h"
 #include "sample/Rutas.h"
 #include "sample/terrain/AscGridFile.h"
@@ -61,11 +62,18 @@ CString CEjemploApp::LeeTerreno(const LineaOrdenes& linea) {
                                            ? carpeta + L"\\classifications.txt"
                                            : linea.ficheroClasificaciones,
                                        m_Terreno.clasificaciones);
+    m_Terreno.ficheroRejilla =
+        linea.ficheroRejilla.IsEmpty() ? carpeta + L"\\terrain\\hills.asc" : linea.ficheroRejilla;
+    m_Terreno.ficheroTesela =
+        linea.ficheroTesela.IsEmpty() ? carpeta + L"\\terrain\\W006N41.DEM" : linea.ficheroTesela;
     if (error.IsEmpty())
-        error = ReadAscGridFile(linea.ficheroRejilla.IsEmpty() ? carpeta + L"\\terrain\\hills.asc"
-                                                               : linea.ficheroRejilla,
-                                m_Terreno.modelo);
+        error = ReadAscGridFile(m_Terreno.ficheroRejilla, m_Terreno.modelo);
+    if (error.IsEmpty())
+        error = PreparaImportacion(m_Terreno);
     if (error.IsEmpty()) {
+        // They are read again after file prompts, which change the current folder.
+        for (CString* fichero : {&m_Terreno.ficheroRejilla, &m_Terreno.ficheroTesela})
+            *fichero = RutaCompleta(*fichero);
         Cotana::CDataCurvado& curvado = m_Terreno.curvado;
         curvado.m_Equidistancia =
             SuitableInterval({m_Terreno.modelo.Lowest(), m_Terreno.modelo.Highest()});

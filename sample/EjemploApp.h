@@ -28,8 +28,8 @@ protected:
     virtual int Corre(Terreno& terreno);
 
 private:
-    /// Reads the survey and the terrain model, to which it suits the intervals of the contours;
-    /// what is wrong with a file, or empty.
+    /// Reads the survey and the terrain model, to which it suits the intervals of the contours, and
+    /// what can be imported; what is wrong with a file, or empty.
     CString LeeTerreno(const LineaOrdenes& linea);
 
     Terreno m_Terreno;

@@ -45,6 +45,16 @@ CString Valor(const CString& texto) {
     return L"\"" + texto + L"\"";
 }
 
+CString Valor(const Cotana::CCoor3D<double>& lugar) {
+    return Valor(lugar.m_X) + L", " + Valor(lugar.m_Y);
+}
+
+CString Valor(const Cotana::CMaximas<double>& extension) {
+    const auto& [maximo, minimo] = extension;
+    return Valor(minimo.m_X) + L" to " + Valor(maximo.m_X) + L", " + Valor(minimo.m_Y) + L" to " +
+           Valor(maximo.m_Y);
+}
+
 CString Valor(const CDigiTab& tabla) {
     return Lista(tabla.Cantidad(),
                  [&](size_t i) { return tabla[static_cast<unsigned int>(i)].GetCodigo(); });

@@ -7,6 +7,7 @@
 
 #include "cotana/entidad/DigiTab.h"
 #include "cotana/entidad/InfoClasificacion.h"
+#include "cotana/entidad/Maximas.h"
 
 /// One field of a record, for a person to read.
 struct Campo {
@@ -25,6 +26,9 @@ CString Valor(int numero);
 CString Valor(unsigned int numero);
 /// A text in quotes.
 CString Valor(const CString& texto);
+/// A place, and extents, on the map: "437200, 4486300", "437200 to 438400, 4486300 to 4487200".
+CString Valor(const Cotana::CCoor3D<double>& lugar);
+CString Valor(const Cotana::CMaximas<double>& extension);
 /// How many codes a table has, and the first of them: "63: CP, CP-T, BM, GCP, GND, ...".
 CString Valor(const Cotana::CDigiTab& tabla);
 /// The same of numbers, of classifications by their number, and of files by their name.

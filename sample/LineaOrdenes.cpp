@@ -11,6 +11,7 @@ struct Opcion {
 
 constexpr Opcion Opciones[] = {
     {L"--grid", L"an elevation grid", &LineaOrdenes::ficheroRejilla},
+    {L"--tile", L"a GTOPO30 tile", &LineaOrdenes::ficheroTesela},
     {L"--classifications", L"a list of classifications", &LineaOrdenes::ficheroClasificaciones},
     {L"--drawings", L"the folder for drawings", &LineaOrdenes::carpetaDibujos},
 };
@@ -53,5 +54,6 @@ LineaOrdenes LeeLineaOrdenes(Palabras palabras, const wchar_t* programa) {
 
 CString Uso(const wchar_t* programa) {
     return CString(L"; usage: ") + programa +
-           L" [--grid ASC-FILE] [--classifications FILE] [--drawings FOLDER] [CODE-TABLE-FILE]";
+           L" [--grid ASC-FILE] [--tile DEM-FILE] [--classifications FILE] [--drawings FOLDER] "
+           L"[CODE-TABLE-FILE]";
 }

@@ -10,6 +10,7 @@ using Palabras = std::span<const wchar_t* const>;
 /// What the command line asks for.
 struct LineaOrdenes {
     CString ficheroRejilla;         ///< The elevation grid; empty takes the one of the sample.
+    CString ficheroTesela;          ///< The GTOPO30 tile; empty takes the one of the sample.
     CString ficheroClasificaciones; ///< The classifications; empty takes those of the sample.
     CString carpetaDibujos;         ///< Folder for drawings; empty takes the current one.
     CString ficheroCodigos;         ///< The code-table file; empty takes the one of the sample.

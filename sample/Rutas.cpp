@@ -17,6 +17,12 @@ CString BuscaHaciaArriba(const CString& relativo) {
     return relativo;
 }
 
+CString RutaCompleta(const CString& fichero) {
+    wchar_t ruta[32768];
+    const DWORD largo = GetFullPathNameW(fichero, _countof(ruta), ruta, nullptr);
+    return largo != 0 && largo < _countof(ruta) ? CString(ruta) : fichero;
+}
+
 CString HazCarpeta(const CString& carpeta, CString& completa) {
     wchar_t ruta[MAX_PATH];
     const DWORD largo =

@@ -8,6 +8,9 @@
 /// @return its full path; `relativo` itself when it is in none of them.
 CString BuscaHaciaArriba(const CString& relativo);
 
+/// The full path of a file; its own name where Windows knows none.
+CString RutaCompleta(const CString& fichero);
+
 /// Makes a folder, and those above it, unless it is there.
 ///
 /// @param carpeta  its name; empty is the current folder.

@@ -4,15 +4,19 @@
 
 #include <vector>
 
+#include "cotana/dibujo/DataTipoProyeccion.h"
 #include "cotana/entidad/DigiTab.h"
 #include "cotana/entidad/InfoClasificacion.h"
 #include "cotana/modelo/DataCambiosPendiente.h"
 #include "cotana/modelo/DataCurvado.h"
+#include "cotana/modelo/DataProyectaDEM.h"
 #include "cotana/modelo/DataVectoresPendiente.h"
 #include "cotana/triangulacion/DataLimpiarRelieve.h"
 #include "cotana/triangulacion/DataLimpiarRelieveRangoZ.h"
 #include "cotana/triangulacion/DataSuavizarTIN.h"
 #include "cotana/triangulacion/DataTriangulacion.h"
+#include "cuadros/import/DataImportarGTOPO30.h"
+#include "cuadros/import/DataImportarGrid.h"
 #include "sample/terrain/ElevationGrid.h"
 
 // Where a dialog edits plain variables, they are the host's own record.
@@ -53,8 +57,10 @@ struct Terreno {
     std::vector<Cotana::CInfoClasificacion> clasificaciones;
     CString carpetaNubes;   ///< Where the survey's point clouds are.
     CString carpetaLimites; ///< Where the boundaries are.
+    CString ficheroRejilla; ///< The elevation grid, which is the terrain model and can be imported.
+    CString ficheroTesela;  ///< The GTOPO30 tile that can be imported.
     ElevationGrid modelo;
-    CString carpetaDibujos; ///< Where drawings are written.
+    CString carpetaDibujos; ///< Where drawings are written, and what is imported.
 
     Cotana::CDataTriangulacion triangulacion;
     DatosTriangulacion2D triangulacion2D;
@@ -85,4 +91,12 @@ struct Terreno {
         .m_FicheroLimite = {},
     };
     Cotana::CDataCambiosPendiente cambiosPendiente = {.m_CadenaCambio = L"SLC"};
+    CDataImportarGrid importarGrid;
+    CDataImportarGTOPO30 importarGTOPO30;
+    Cotana::CDataTipoProyeccion tipoProyeccion;
+    Cotana::CDataProyectaDEM proyectarDEM = {
+        .m_Valor = 25,
+        .m_FicheroProyeccion = {},
+        .m_FicheroInforme = {},
+    };
 };

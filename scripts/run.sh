@@ -2,8 +2,8 @@
 # Builds and runs the sample host. With a display its window opens; without one, or with
 # --tour, every conversation is opened, driven and confirmed, and a page shows them.
 #
-#   scripts/run.sh [--tour] [--grid ASC-FILE] [--classifications FILE] [--drawings FOLDER]
-#                  [CODE-TABLE-FILE]
+#   scripts/run.sh [--tour] [--grid ASC-FILE] [--tile DEM-FILE] [--classifications FILE]
+#                  [--drawings FOLDER] [CODE-TABLE-FILE]
 set -euo pipefail
 # Names are meant as their user sees them, whatever folder the scripts work in.
 [ -n "${CUADROS_LOCKED:-}" ] || export CUADROS_CALLER=$PWD

@@ -134,6 +134,8 @@ CString EscribePagina(const std::vector<Parada>& paradas, const CString& carpeta
                 pagina << Imagen(parada, carpeta + L"\\" + foto.fichero, "png", foto.pie);
             if (!parada.dibujo.IsEmpty())
                 pagina << Imagen(parada, parada.dibujo, "svg+xml", parada.hecho);
+            else if (!parada.hecho.IsEmpty())
+                pagina << "<p>" << Html(parada.hecho) << "</p>\n";
             if (!parada.antes.empty())
                 pagina << Tabla(parada);
             for (const DWORD_PTR ayuda : parada.ayudas)

@@ -13,7 +13,7 @@ function(expect_refusal expected program)
   endif()
 endfunction()
 
-set(usage "[--grid ASC-FILE] [--classifications FILE] [--drawings FOLDER] [CODE-TABLE-FILE]")
+set(usage "[--grid ASC-FILE] [--tile DEM-FILE] [--classifications FILE] [--drawings FOLDER] [CODE-TABLE-FILE]")
 expect_refusal("--grid wants an elevation grid; usage: Ejemplo ${usage}" ${HOST} --grid --drawings)
 expect_refusal("--grid is given twice; usage: Recorrido FOLDER ${usage}" ${TOUR} tour --grid a --grid b)
 foreach(folder "" --grid)
@@ -29,6 +29,7 @@ expect_refusal("bad.txt(1): the number is not a whole number: A" ${TOUR} ${WORK}
                --classifications bad.txt)
 file(WRITE ${WORK}/bad.asc "ncols 2\nnrows 2\nxllcentre 0\n")
 expect_refusal("bad.asc(3): the header key is unknown: xllcentre" ${TOUR} ${WORK}/tour --grid bad.asc)
+expect_refusal("none.DEM: there is no such file" ${TOUR} ${WORK}/tour --tile none.DEM)
 
 expect_refusal("bad.txt: the folder cannot be made" ${TOUR} ${WORK}/tour --drawings bad.txt)
 expect_refusal("bad.txt: the folder cannot be made" ${TOUR} bad.txt)
@@ -38,6 +39,8 @@ expect_refusal("bad.txt: the folder cannot be made" ${TOUR} bad.txt)
 foreach(file "TriangulacionDlg.png: the picture cannot be written"
              "CurvadoDlg-2.png: the picture cannot be written"
              "contours.dxf: the file cannot be written (Windows error 5)"
+             "imported-grid.asc: the file cannot be written (Windows error 5)"
+             "imported-tile.asc: the file cannot be written (Windows error 5)"
              "index.html: the file cannot be written (Windows error 5)")
   string(REGEX MATCH "^[^:]+" name ${file})
   file(REMOVE_RECURSE ${WORK}/tour-bad)

@@ -21,6 +21,14 @@ TEST(Ficha, ShowsTextsInQuotes) {
     EXPECT_EQ(Valor(CString(L"North slope")), L"\"North slope\"");
 }
 
+TEST(Ficha, ShowsPlacesAndExtentsWithoutTheirHeights) {
+    Cotana::CMaximas<double> extension;
+    extension.m_Minimo = {-6, 40.25, 1, 1};
+    extension.m_Maximo = {-5, 41, 2, 1};
+    EXPECT_EQ(Valor(extension.m_Minimo), L"-6, 40.25");
+    EXPECT_EQ(Valor(extension), L"-6 to -5, 40.25 to 41");
+}
+
 TEST(Ficha, ShowsTheFirstFiveCodesOfATable) {
     CDigiTab tabla;
     EXPECT_EQ(Valor(tabla), L"0");

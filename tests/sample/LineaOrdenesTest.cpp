@@ -15,6 +15,7 @@ LineaOrdenes Lee(const std::vector<const wchar_t*>& palabras) {
 TEST(LineaOrdenes, AsksForNothingWhenItIsEmpty) {
     const LineaOrdenes linea = Lee({});
     EXPECT_EQ(linea.ficheroRejilla, L"");
+    EXPECT_EQ(linea.ficheroTesela, L"");
     EXPECT_EQ(linea.ficheroClasificaciones, L"");
     EXPECT_EQ(linea.carpetaDibujos, L"");
     EXPECT_EQ(linea.ficheroCodigos, L"");
@@ -32,9 +33,11 @@ TEST(LineaOrdenes, TakesTheCodeTableBeforeAndBehindOptions) {
 }
 
 TEST(LineaOrdenes, TakesEachFileAndTheFolder) {
-    const LineaOrdenes linea = Lee({L"--grid", L"my hills.asc", L"--classifications", L"cloud.txt",
-                                    L"codes.txt", L"--drawings", L"out"});
+    const LineaOrdenes linea =
+        Lee({L"--grid", L"my hills.asc", L"--tile", L"w.dem", L"--classifications", L"cloud.txt",
+             L"codes.txt", L"--drawings", L"out"});
     EXPECT_EQ(linea.ficheroRejilla, L"my hills.asc");
+    EXPECT_EQ(linea.ficheroTesela, L"w.dem");
     EXPECT_EQ(linea.ficheroClasificaciones, L"cloud.txt");
     EXPECT_EQ(linea.carpetaDibujos, L"out");
     EXPECT_EQ(linea.ficheroCodigos, L"codes.txt");
@@ -42,9 +45,10 @@ TEST(LineaOrdenes, TakesEachFileAndTheFolder) {
 }
 
 TEST(LineaOrdenes, SaysWhatIsWrongAndHowItIsUsed) {
-    const CString usage = L"; usage: Ejemplo [--grid ASC-FILE] [--classifications FILE] "
-                          L"[--drawings FOLDER] [CODE-TABLE-FILE]";
+    const CString usage = L"; usage: Ejemplo [--grid ASC-FILE] [--tile DEM-FILE] "
+                          L"[--classifications FILE] [--drawings FOLDER] [CODE-TABLE-FILE]";
     EXPECT_EQ(Lee({L"--grid", L""}).error, L"--grid wants an elevation grid" + usage);
+    EXPECT_EQ(Lee({L"--tile"}).error, L"--tile wants a GTOPO30 tile" + usage);
     EXPECT_EQ(Lee({L"--classifications"}).error,
               L"--classifications wants a list of classifications" + usage);
     EXPECT_EQ(Lee({L"codes.txt", L"--drawings"}).error,

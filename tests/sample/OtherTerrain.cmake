@@ -21,13 +21,14 @@ if(NOT result EQUAL 0)
 endif()
 
 # The multiples of 2 m, which suits the terrain, from -54 m to -6 m, a tenth of the way from either
-# end; a code that was typed elsewhere is in its record; and help was asked for.
-foreach(expected "help asked for at context 151165" "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "m_Cadena +\"\" +-> \"CN\"" "  25 contours and [0-9]+ labels")
+# end; of the eastern half every second node; a code that was typed elsewhere is in its record; and
+# help was asked for.
+foreach(expected "help asked for at context 151165" "m_CotaMinima +-60 +-> -54" "m_CotaMaxima +0 +-> -6" "m_Cadena +\"\" +-> \"CN\"" "  25 contours and [0-9]+ labels" "  25 nodes imported")
   if(NOT output MATCHES "${expected}")
     message(FATAL_ERROR "The tour does not say: ${expected}\n${output}")
   endif()
 endforeach()
-foreach(drawing contours.dxf contours.svg)
+foreach(drawing contours.dxf contours.svg imported-grid.asc imported-tile.asc)
   if(NOT EXISTS ${WORK}/drawings/${drawing} OR EXISTS ${WORK}/tour-slope/${drawing})
     message(FATAL_ERROR "${drawing} is not where it should be")
   endif()

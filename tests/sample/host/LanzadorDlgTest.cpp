@@ -94,6 +94,14 @@ TEST_F(Lanzador, AcceptedContoursAreDrawn) {
     EXPECT_TRUE(HayDibujo());
 }
 
+TEST_F(Lanzador, GridThatIsImportedKeepsItsSpacing) {
+    constexpr double paso = 0.0083333; // the dialog shows three decimals
+    terreno.importarGrid.m_Paso.m_X = paso;
+    fallo = true; // there is no file
+    Abre(L"Elevation grid", IDOK);
+    EXPECT_EQ(terreno.importarGrid.m_Paso.m_X, paso);
+}
+
 TEST_F(Lanzador, SaysWhatCouldNotBeCarriedOut) {
     terreno.carpetaDibujos += L"\\gone";
     fallo = true;

@@ -100,7 +100,7 @@ foreach(part conversaciones tour/guiones)
 endforeach()
 
 make_tree("")
-file(WRITE ${tree}/tests/dialogs/Casos.cpp "De<CRampDlg>(1), De<CLightDlgs>(2)\n")
+file(WRITE ${tree}/tests/dialogs/Casos.cpp "De<CRampDlg>(1), De<CLightDlgs>(2), CLightDlg>\n")
 expect("A dialog without a case" "the line of LightDlg in tests/dialogs/Casos.cpp")
 
 foreach(file NewDlg.h Helper.cpp)

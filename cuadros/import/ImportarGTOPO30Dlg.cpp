@@ -16,7 +16,7 @@ namespace {
 /// The projection that has a zone and an ellipsoid.
 constexpr int ProyeccionUTM = 1;
 
-/// What is preselected for an ellipsoid that the list does not have: WGS-84.
+/// What is preselected for the ellipsoid of a user: WGS-84.
 constexpr int IndicePorDefecto = 25;
 
 using Sexagesimal = CImportarGTOPO30Dlg::Sexagesimal;
@@ -134,9 +134,9 @@ BOOL CImportarGTOPO30Dlg::OnInitDialog() {
     auto& elipsoides = Cuadros::Control<CComboBox>(*this, IDC_IMPORTAR_GTOPO30_ELIPSOIDE);
     for (std::size_t fila = 1; fila < Cuadros::Elipsoides().size(); ++fila)
         elipsoides.AddString(Cuadros::Elipsoides()[fila].GetNombre());
-    m_IndiceElipsoide = m_pData->m_Elipsoide.GetIndice() - 1;
-    if (m_IndiceElipsoide < 0)
-        m_IndiceElipsoide = IndicePorDefecto;
+    const int indice = m_pData->m_Elipsoide.GetIndice();
+    m_IndiceElipsoide = indice >= 1 ? indice - 1 : IndicePorDefecto;
+    elipsoides.SetCurSel(m_IndiceElipsoide);
     UpdateData(FALSE);
     Cuadros::Muestra(*this, m_Mostrar,
                      {IDC_IMPORTAR_GTOPO30_PROYECCION, IDC_IMPORTAR_GTOPO30_HUSO,
@@ -163,7 +163,8 @@ void CImportarGTOPO30Dlg::OnCalcula() {
     const double yMaxima = std::min(maximo.m_Y, maximoFichero.m_Y);
     const double xMinima = std::max(minimo.m_X, minimoFichero.m_X);
     const double xMaxima = std::min(maximo.m_X, maximoFichero.m_X);
-    // Kept: a rectangle outside of the tile has nodes, too, since its sides are negative.
+    // Kept: a rectangle outside of the tile has nodes, too: a negative side counts as a positive
+    // one.
     const Cotana::CCoor3D<double>& paso = m_pData->m_Paso;
     m_pData->m_PuntosImportar =
         Cuadros::CuentaNodos((xMaxima - xMinima) / (m_pData->m_Razon * paso.m_X),
@@ -184,7 +185,9 @@ void CImportarGTOPO30Dlg::OnOK() {
     m_pData->m_Huso = Cuadros::LeeEntero(m_Huso);
     m_pData->m_TipoProyeccion = m_TipoProyeccion.GetCurSel();
     // Without a selection (-1) it is row 0, the one that a user has defined.
-    m_pData->m_Elipsoide = Cuadros::Elipsoides()[static_cast<std::size_t>(m_IndiceElipsoide + 1)];
+    const auto& elipsoides = Cuadros::Elipsoides();
+    const auto fila = static_cast<std::size_t>(m_IndiceElipsoide + 1);
+    m_pData->m_Elipsoide = elipsoides[fila < elipsoides.size() ? fila : 0];
     CDialog::OnOK();
 }
 

@@ -81,8 +81,8 @@ void CImportarGridDlg::OnCalcula() {
 }
 
 void CImportarGridDlg::OnOK() {
-    // Kept: a whole number that does not convert is refused again below, when the rectangle and the
-    // spacing are in the record already, with three decimals.
+    // Kept: an integer that does not convert is refused again below, when the texts of the last
+    // exchange are in the record already.
     UpdateData(TRUE);
     m_pData->m_Extension.m_Minimo.m_X = Cuadros::LeeNumero(m_XMinima);
     m_pData->m_Extension.m_Maximo.m_X = Cuadros::LeeNumero(m_XMaxima);

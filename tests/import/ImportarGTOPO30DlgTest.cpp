@@ -178,7 +178,8 @@ TEST_F(ImportarGTOPO30Dlg, ProjectionBeyondTheListIsTheFirstAndNoneStaysNone) {
                                                           {2, 2, 2, DeUTM},
                                                           {3, 0, 0, DeUTM},
                                                           {5, 0, 0, DeUTM},
-                                                          {-1, -1, -1, DeUTM}}) {
+                                                          {-1, -1, -1, DeUTM},
+                                                          {-7, -1, -1, DeUTM}}) {
         data.m_TipoProyeccion = antes;
         Abre([&](kit::Dialog& dialogo) {
             EXPECT_EQ(dialogo.combo(Proyeccion).selected(), elegida) << antes;
@@ -228,6 +229,59 @@ TEST_F(ImportarGTOPO30Dlg, HostHidesAndShowsTheProjection) {
     EXPECT_EQ(data.m_Elipsoide.GetIndice(), 17);
 }
 
+TEST_F(ImportarGTOPO30Dlg, ShowCommandIsPassedToWindowsAsItIs) {
+    for (const int como : {SW_HIDE, SW_SHOWNORMAL, SW_SHOW, SW_SHOWNA, 77}) {
+        mostrar = como;
+        Abre([&](kit::Dialog& dialogo) {
+            CWnd prueba;
+            prueba.Create(L"Static", L"", WS_CHILD | WS_VISIBLE, CRect(),
+                          CWnd::FromHandle(dialogo.handle()), 9);
+            prueba.ShowWindow(como);
+            for (const int control : Ocultables)
+                EXPECT_EQ(dialogo.visible(control), prueba.IsWindowVisible()) << como;
+            prueba.DestroyWindow();
+            dialogo.press(IDCANCEL);
+        });
+    }
+}
+
+TEST_F(ImportarGTOPO30Dlg, OkReadsTheSelectionsAsTheyAre) {
+    data.m_TipoProyeccion = 0;
+    data.m_Huso = 29;
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  // By a program, which tells the dialog nothing.
+                  SendMessageW(dialogo.control(Proyeccion), CB_SETCURSEL, 2, 0);
+                  SendMessageW(dialogo.control(Elipsoide), CB_SETCURSEL, 3, 0);
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(data.m_TipoProyeccion, 2);
+    // Both are disabled, and read all the same.
+    EXPECT_EQ(data.m_Huso, 30);
+    EXPECT_EQ(data.m_Elipsoide.GetIndice(), 4);
+}
+
+TEST_F(ImportarGTOPO30Dlg, EllipsoidThatTheTableLacksIsTheUserDefinedOne) {
+    EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
+                  const HWND lista = dialogo.control(Elipsoide);
+                  SendMessageW(lista, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"Of the host"));
+                  SendMessageW(lista, CB_SETCURSEL, 27, 0);
+                  dialogo.press(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(data.m_Elipsoide.GetIndice(), -1);
+}
+
+TEST_F(ImportarGTOPO30Dlg, SpacingIsThatOnTheRecordsEllipsoid) {
+    data.m_Elipsoide = Cotana::CElipsoide(-1, L"mine", 6000000, 0);
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(Espaciado), L"52.360");
+        dialogo.choose(Elipsoide, 0);
+        EXPECT_EQ(dialogo.text(Espaciado), L"52.360");
+        dialogo.press(IDCANCEL);
+    });
+}
+
 // The ellipsoid.
 
 TEST_F(ImportarGTOPO30Dlg, EllipsoidsAreThoseOfTheTableButTheUsersOwn) {
@@ -259,7 +313,7 @@ TEST_F(ImportarGTOPO30Dlg, EachEllipsoidIsShownAndComesBack) {
 }
 
 TEST_F(ImportarGTOPO30Dlg, EllipsoidOfTheUsersOwnShowsWgs84) {
-    for (const int indice : {-1, 0}) {
+    for (const int indice : {-1, 0, std::numeric_limits<int>::min()}) {
         data.m_Elipsoide = Cotana::CElipsoide(indice, L"mine", 6378000, 0.006);
         EXPECT_EQ(Abre([](kit::Dialog& dialogo) {
                       EXPECT_EQ(dialogo.combo(Elipsoide).selected(), 25);
@@ -355,6 +409,22 @@ TEST_F(ImportarGTOPO30Dlg, RectangleOutsideOfTheTileHasNodes) {
         dialogo.press(IDCANCEL);
     });
     EXPECT_EQ(data.m_PuntosImportar, 640);
+    // Beside it along one axis: twenty steps that are negative by sixteen that are not.
+    data.m_Extension = Rectangulo(10, 37, 12, 41);
+    Abre([](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(data.m_PuntosImportar, 320);
+    data.m_Extension = Rectangulo(-5, 50, -1, 51);
+    Abre([](kit::Dialog& dialogo) { dialogo.press(IDCANCEL); });
+    EXPECT_EQ(data.m_PuntosImportar, 256);
+}
+
+TEST_F(ImportarGTOPO30Dlg, RectangleIsCutByTheTile) {
+    data.m_Extension = Rectangulo(-10, 30, 5, 50);
+    Abre([](kit::Dialog& dialogo) {
+        EXPECT_EQ(dialogo.text(PuntosImportar), L"288");
+        dialogo.press(IDCANCEL);
+    });
+    CompruebaExtension(Rectangulo(-10, 30, 5, 50));
 }
 
 TEST_F(ImportarGTOPO30Dlg, RatioCountsWithTheSpacingOfEachAxis) {

@@ -292,6 +292,31 @@ TEST_F(ImportarGridDlg, OkRefusesTwiceWhatIsNoIntegerButKeepsTheRectangle) {
     CompruebaExtension(Rectangulo(0, 0, 50, 100));
 }
 
+TEST_F(ImportarGridDlg, RefusedOkKeepsTheSpacingOfTheExchangeBefore) {
+    Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [this](kit::Dialog& dialogo) {
+        dialogo.setText(Espaciado, L"4");
+        dialogo.setText(XMaxima, L"50"); // exchanges the spacing, too
+        dialogo.type(PuntosFichero, L"many");
+        dialogo.press(IDOK);
+        EXPECT_EQ(data.m_Paso.m_X, 4);
+        CompruebaExtension(Rectangulo(0, 0, 50, 100));
+        dialogo.press(IDCANCEL);
+    });
+}
+
+TEST_F(ImportarGridDlg, ClearedRatioComesAfterTheRectangle) {
+    data.m_Razon = 2;
+    Abre({AFX_IDP_PARSE_INT}, [this](kit::Dialog& dialogo) {
+        dialogo.setText(XMaxima, L"50");
+        EXPECT_EQ(data.m_PuntosImportar, 10);
+        dialogo.setText(Razon, L"");
+        EXPECT_EQ(dialogo.text(XMaxima), L"50");
+        EXPECT_EQ(dialogo.text(Razon), L"2");
+        EXPECT_EQ(data.m_PuntosImportar, 10);
+        dialogo.press(IDCANCEL);
+    });
+}
+
 TEST_F(ImportarGridDlg, CountToImportCannotBeTypedAndIsRefusedWhereAProgramDoes) {
     const auto resultado = Abre({AFX_IDP_PARSE_INT, AFX_IDP_PARSE_INT}, [](kit::Dialog& dialogo) {
         EXPECT_NE(GetWindowLong(dialogo.control(PuntosImportar), GWL_STYLE) & ES_READONLY, 0);

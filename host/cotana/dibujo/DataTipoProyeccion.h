@@ -2,7 +2,7 @@
 
 namespace Cotana {
 
-/// How a drawing is projected: two choices of which not both are the first.
+/// How what lies along a profile is projected: two choices of which not both are the first.
 struct CDataTipoProyeccion {
     /// First choice, counted from 0: of two.
     int m_Proyeccion1 = 0;

@@ -8,11 +8,11 @@ namespace Cotana {
 struct CDataProyectaDEM {
     /// Whether a report is written, to `m_FicheroInforme`.
     int m_Informe = 0;
-    /// A further switch.
+    /// Whether gaps are filled.
     int m_Opcion = 0;
-    /// A number, which the user sees with three decimals.
+    /// Spacing of the nodes, in metres, which the user sees with three decimals.
     double m_Valor = 0;
-    /// Kind of projection, counted from 0: of three.
+    /// How a node gets its elevation, counted from 0: of three.
     int m_Tipo = 0;
     /// The file that says how the model is projected.
     CString m_FicheroProyeccion;

@@ -50,7 +50,8 @@ private:
 /// row, costs n rows and not their square.
 ///
 /// @param mostradas what the list was given the last time, empty before the first; afterwards
-///                  `filas`. Nobody else may put rows or texts into the list.
+///                  `filas`. Nobody else may change the list's rows, their texts or item states:
+///                  only the selection, the focus and the scrolling are the user's.
 /// @param salvo     indices into `filas`, in increasing order: one that is not has no effect, nor
 ///                  have those after it.
 void CambiaFilas(CListCtrl& lista, std::vector<Fila>& mostradas, std::vector<Fila> filas,

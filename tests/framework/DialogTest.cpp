@@ -553,7 +553,7 @@ TEST(DialogEnds, ATemplateThatFailsAfterAModelessRunTouchesNothingOfIt) {
 }
 
 // What a derived class does after its base initialisation has failed, whatever it answers.
-TEST(DialogEnds, AnInitialisationThatGoesOnAfterAFailureIsMinusOne) {
+TEST(DialogEnds, AnInitialisationThatGoesOnAfterAFailureEndsWithWhatItSaysLast) {
     for (const bool destroys : {false, true}) {
         FieldsDialog dialog(nullptr, IDD_INIT_REFUSED);
         CWnd control;

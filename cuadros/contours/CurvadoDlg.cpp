@@ -178,6 +178,8 @@ void CCurvadoDlg::OnOK() {
     // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
     // base class's OK refuses the text a second time.
     UpdateData(TRUE);
+    if (m_hWnd == nullptr)
+        return; // taken away under the prompt
     const Cotana::CDataCurvado& data = *m_pData;
     // Kept: the type is read from a hidden list too, and is -1 where none is selected.
     m_pData->m_TipoSuavizado = TiposSuavizado(*this).GetCurSel();

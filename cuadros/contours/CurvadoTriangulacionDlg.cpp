@@ -35,6 +35,8 @@ void CCurvadoTriangulacionDlg::OnOK() {
     // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
     // base class's OK refuses the text a second time.
     UpdateData(TRUE);
+    if (m_hWnd == nullptr)
+        return; // taken away under the prompt
     // Kept: where both are wrong, only the interval is refused.
     if (Cuadros::Signo(m_Equidistancia) != 1)
         return Cuadros::Rechaza(*this, IDS_VALOR_NO_POSITIVO);

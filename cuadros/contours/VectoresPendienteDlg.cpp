@@ -64,6 +64,8 @@ void CVectoresPendienteDlg::OnOK() {
     // Kept: a text that is no number does not stop OK. The checks take the value of before, and the
     // base class's OK refuses the text a second time.
     UpdateData(TRUE);
+    if (m_hWnd == nullptr)
+        return; // taken away under the prompt
     const Cotana::CDataVectoresPendiente& data = *m_pData;
 
     // Kept: in this order, and without the tolerance that other checks have.

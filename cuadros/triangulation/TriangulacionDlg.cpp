@@ -116,15 +116,19 @@ BOOL CTriangulacionDlg::OnInitDialog() {
 }
 
 void CTriangulacionDlg::OnItemchangedListaCodigos(NMHDR* /*pNMHDR*/, LRESULT* pResult) {
+    *pResult = 0;
     UpdateData(TRUE);
+    if (m_hWnd == nullptr)
+        return; // taken away under the prompt: the breaklines of a list that is gone are none
     m_pData->m_CodigosRuptura = Seleccionados(m_ListaCodigos, m_pData->m_Codigos);
     ActualizaRupturas();
     HabilitaAceptar();
-    *pResult = 0;
 }
 
 void CTriangulacionDlg::ActualizaRupturas() {
     UpdateData(TRUE);
+    if (m_hWnd == nullptr)
+        return;
     const CDigiTab& rupturas = m_pData->m_CodigosRuptura;
     Cuadros::CambiaFilas(m_ListaRupturas, m_RupturasMostradas, FilasDe(rupturas),
                          Deseleccionados(m_ListaRupturas, rupturas));

@@ -1,6 +1,7 @@
 #include "Apertura.h"
 
 #include "kit/app/RecordingApp.h"
+#include "kit/driver/Input.h"
 
 #include <commctrl.h>
 
@@ -11,14 +12,6 @@
 namespace {
 
 Apertura* actual = nullptr;
-
-std::vector<HWND> ControlesDe(HWND dialogo) {
-    std::vector<HWND> controles;
-    for (HWND control = GetWindow(dialogo, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT))
-        controles.push_back(control);
-    return controles;
-}
 
 bool EsDeClase(HWND ventana, const wchar_t* clase) {
     wchar_t suya[40] = {};
@@ -32,7 +25,17 @@ void Avisa(HWND control, UINT que) {
                  reinterpret_cast<LPARAM>(control));
 }
 
-void Usa(HWND control) {
+} // namespace
+
+std::vector<HWND> ControlesDe(HWND dialogo) {
+    std::vector<HWND> controles;
+    for (HWND control = GetWindow(dialogo, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        controles.push_back(control);
+    return controles;
+}
+
+void UsaControl(HWND control) {
     if (EsDeClase(control, L"Button")) {
         SendMessageW(control, BM_CLICK, 0, 0);
     } else if (EsDeClase(control, L"Edit")) {
@@ -45,12 +48,11 @@ void Usa(HWND control) {
         SendMessageW(control, LB_SETSEL, TRUE, 0);
         Avisa(control, LBN_SELCHANGE);
     } else if (EsDeClase(control, WC_LISTVIEWW)) {
-        ListView_SetItemState(control, 0, 0, LVIS_SELECTED);
-        ListView_SetItemState(control, 0, LVIS_SELECTED, LVIS_SELECTED);
+        RECT fila = {};
+        if (ListView_GetItemRect(control, 0, &fila, LVIR_LABEL))
+            kit::mouse::click(control, {fila.left + 2, (fila.top + fila.bottom) / 2});
     }
 }
-
-} // namespace
 
 Apertura::Apertura(CDialog& dialogo) : m_Dialogo(dialogo) {
     actual = this;
@@ -84,10 +86,7 @@ void Apertura::Atiende(HWND activa) {
         if (m_Dialogo.m_hWnd != nullptr)
             m_Dialogo.EndDialog(IDCANCEL);
     } else if (EsDeClase(activa, L"#32770")) {
-        if (alPrimerAviso) {
-            std::exchange(alPrimerAviso, {})();
-            return;
-        }
+        alAviso();
         for (const int boton : {IDCANCEL, IDOK, IDNO})
             if (GetDlgItem(activa, boton) != nullptr)
                 return static_cast<void>(PostMessageW(activa, WM_COMMAND, boton, 0));
@@ -100,7 +99,7 @@ void UsaControles(HWND dialogo) {
         if (numero == IDOK || numero == IDCANCEL)
             continue;
         kit::app.answerFilePrompt(L"C:\\b.xyz");
-        Usa(control);
+        UsaControl(control);
         if (!IsWindow(dialogo))
             return;
     }

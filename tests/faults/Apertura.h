@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <vector>
 
 /// Opens a dialog and does something in it, whatever else comes: a message box, a sub-dialog and
 /// the like are dismissed. For conversations of which only the end is known.
@@ -15,8 +16,8 @@ public:
     Apertura(const Apertura&) = delete;
     Apertura& operator=(const Apertura&) = delete;
 
-    /// What is done when the first other window is there, before it is dismissed.
-    std::function<void()> alPrimerAviso;
+    /// What is done at each other window that comes, before it is dismissed.
+    std::function<void()> alAviso = [] {};
 
     /// Runs the dialog, and `paso` in it once it is shown. One that is open afterwards is
     /// cancelled.
@@ -32,8 +33,14 @@ private:
     Paso m_Paso;
 };
 
-/// Uses each control that a dialog has, but OK and Cancel, as a user would: clicks the buttons,
-/// types a number, selects and deselects. Ends where the dialog does.
+/// The controls of a dialog, in its order.
+std::vector<HWND> ControlesDe(HWND dialogo);
+
+/// Uses a control as a user would: clicks a button or the first row of a list, types a number,
+/// selects.
+void UsaControl(HWND control);
+
+/// Uses each control that a dialog has, but OK and Cancel. Ends where the dialog does.
 void UsaControles(HWND dialogo);
 
 /// Types what is no number into each edit of a dialog.

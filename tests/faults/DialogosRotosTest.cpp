@@ -34,32 +34,32 @@ protected:
         });
     }
 
-    /// Opens the dialog, writes letters into all its edits, and presses the button of this place
-    /// among its controls; when something opens, `alAbrirse` is called with the dialog.
+    /// Opens the dialog, writes letters into all its edits, and uses the control of this place
+    /// among those that are no labels; when something opens then, `alAbrirse` is called with the
+    /// dialog.
     ///
-    /// @return false when there is no such button.
+    /// @return false when there is no such control.
     template <class AlAbrirse>
-    static bool Pulsa(CWnd* padre, std::size_t lugar, AlAbrirse alAbrirse) {
+    static bool UsaUno(CWnd* padre, std::size_t lugar, AlAbrirse alAbrirse) {
         bool esta = false;
         const auto conversacion = GetParam().hazla(padre);
         CDialog& dialogo = conversacion->Dialogo();
         Apertura apertura(dialogo);
-        apertura.alPrimerAviso = [&] { alAbrirse(dialogo); };
         const INT_PTR resultado = apertura.Ejecuta([&](HWND ventana) {
-            std::vector<HWND> botones;
-            for (HWND control = GetWindow(ventana, GW_CHILD); control != nullptr;
-                 control = GetWindow(control, GW_HWNDNEXT))
-                if (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)
-                    botones.push_back(control);
-            esta = lugar < botones.size();
+            std::vector<HWND> controles = ControlesDe(ventana);
+            std::erase_if(controles, [](HWND control) {
+                return SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC;
+            });
+            esta = lugar < controles.size();
             if (!esta)
                 return;
-            kit::app.cancelFilePrompt(); // where the button asks for a file all the same
+            kit::app.cancelFilePrompt(); // where a button asks for a file all the same
+            // A key in an edit may be refused already: that is dismissed.
             EscribeLetras(ventana);
-            if (IsWindow(ventana))
-                SendMessageW(botones[lugar], BM_CLICK, 0, 0);
+            apertura.alAviso = [&] { alAbrirse(dialogo); };
+            UsaControl(controles[lugar]);
         });
-        EXPECT_TRUE(TieneFin(resultado)) << resultado << ", button " << lugar;
+        EXPECT_TRUE(TieneFin(resultado)) << resultado << ", control " << lugar;
         EXPECT_EQ(dialogo.m_hWnd, nullptr);
         return esta;
     }
@@ -96,7 +96,7 @@ TEST_P(DialogosRotos, EndWithMinusOneWithoutAllOfTheirControls) {
 
 TEST_P(DialogosRotos, MayBeTakenAwayUnderAMessageOfTheirs) {
     for (std::size_t lugar = 0;
-         Pulsa(nullptr, lugar, [](CDialog& dialogo) { dialogo.DestroyWindow(); }); ++lugar) {
+         UsaUno(nullptr, lugar, [](CDialog& dialogo) { dialogo.DestroyWindow(); }); ++lugar) {
     }
 }
 
@@ -105,7 +105,7 @@ TEST_P(DialogosRotos, MayLoseTheirOwnerUnderAMessageOfTheirs) {
     for (std::size_t lugar = 0; queda; ++lugar) {
         const HWND duena = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
                                            60, 40, 900, 600, nullptr, nullptr, nullptr, nullptr);
-        queda = Pulsa(CWnd::FromHandle(duena), lugar, [&](CDialog&) { DestroyWindow(duena); });
+        queda = UsaUno(CWnd::FromHandle(duena), lugar, [&](CDialog&) { DestroyWindow(duena); });
         if (IsWindow(duena))
             DestroyWindow(duena);
     }

@@ -17,7 +17,7 @@ TEST(HostResources, TemplateOfTheHostEndsTheLibrarysDialogWithMinusOne) {
     Cotana::CTriangulacionDlg dialogo(data);
     Apertura apertura(dialogo);
     int avisos = 0;
-    apertura.alPrimerAviso = [&] { ++avisos; };
+    apertura.alAviso = [&] { ++avisos; };
     EXPECT_EQ(apertura.Ejecuta([](HWND) { FAIL() << "it has opened"; }), -1);
     EXPECT_EQ(avisos, 1);
     EXPECT_EQ(data.m_Codigos.Cantidad(), 2U);

@@ -86,7 +86,8 @@ void Apertura::Atiende(HWND activa) {
         if (m_Dialogo.m_hWnd != nullptr)
             m_Dialogo.EndDialog(IDCANCEL);
     } else if (EsDeClase(activa, L"#32770")) {
-        alAviso();
+        if (std::exchange(m_Atendida, activa) != activa)
+            alAviso();
         for (const int boton : {IDCANCEL, IDOK, IDNO})
             if (GetDlgItem(activa, boton) != nullptr)
                 return static_cast<void>(PostMessageW(activa, WM_COMMAND, boton, 0));

@@ -31,6 +31,7 @@ private:
 
     CDialog& m_Dialogo;
     Paso m_Paso;
+    HWND m_Atendida = nullptr; ///< the other window that came last
 };
 
 /// The controls of a dialog, in its order.

@@ -38,13 +38,9 @@ std::wstring ModulePath(HMODULE module) {
 }
 
 std::wstring MappedFile(HMODULE module) {
-    // A module that was loaded for its resources has marks in the low bits of its handle.
-    constexpr ULONG_PTR marks = 3;
     std::wstring path(longestPath, L'\0');
-    path.resize(
-        ::GetMappedFileName(::GetCurrentProcess(),
-                            reinterpret_cast<void*>(reinterpret_cast<ULONG_PTR>(module) & ~marks),
-                            path.data(), static_cast<DWORD>(path.size())));
+    path.resize(::GetMappedFileName(::GetCurrentProcess(), module, path.data(),
+                                    static_cast<DWORD>(path.size())));
     return path;
 }
 

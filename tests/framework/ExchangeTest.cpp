@@ -434,8 +434,12 @@ TEST(ExchangeOfButtons, AGroupIsWhatItsButtonsAreNow) {
     EXPECT_EQ(exchanged(), 1);
     dialog.GetDlgItem(IDC_RADIO_B)->ModifyStyle(BS_TYPEMASK, BS_AUTORADIOBUTTON);
     EXPECT_EQ(exchanged(), 2);
-    dialog.GetDlgItem(IDC_RADIO_B)->DestroyWindow();
+    MainWindow other;
+    CWnd* const moved = dialog.GetDlgItem(IDC_RADIO_B);
+    moved->SetParent(&other);
     EXPECT_EQ(exchanged(), 1);
+    dialog.GetDlgItem(IDC_RADIO_C)->DestroyWindow();
+    EXPECT_EQ(exchanged(), -1);
     dialog.DestroyWindow();
 }
 
@@ -444,7 +448,11 @@ class Asking : public CWnd {
 public:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_GETDLGCODE && !std::exchange(m_asking, true)) {
-            static_cast<FieldsDialog*>(GetParent())->exchange = [](CDataExchange*) {};
+            // With another control, and fewer of them.
+            static_cast<FieldsDialog*>(GetParent())->exchange = [](CDataExchange* pDX) {
+                int number = 0;
+                DDX_Check(pDX, IDC_CHECK, number);
+            };
             EXPECT_TRUE(GetParent()->UpdateData(TRUE));
         }
         return CWnd::WindowProc(message, wParam, lParam);
@@ -460,7 +468,11 @@ TEST(ExchangeOfButtons, AButtonMayExchangeWhenItIsAsked) {
     ASSERT_TRUE(dialog.Create(IDD_FIELDS));
     Asking asking;
     ASSERT_TRUE(asking.SubclassDlgItem(IDC_RADIO_A, &dialog));
-    const auto exchange = [&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_A, index); };
+    CString name;
+    const auto exchange = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, IDC_NAME, name);
+        DDX_Radio(pDX, IDC_RADIO_A, index);
+    };
     CDataExchange show(&dialog, FALSE);
     exchange(&show);
     index = 5;

@@ -61,6 +61,14 @@ public:
     }
 };
 
+/// Counts its objects.
+class Counted : public CException {
+public:
+    Counted() { ++alive; }
+    ~Counted() override { --alive; }
+    static inline int alive = 0;
+};
+
 } // namespace
 
 // The user presses a button, types, presses OK; each time something fails. He is told so, and
@@ -173,7 +181,7 @@ TEST(HandlerExceptions, GoToTheApplicationsHookInstead) {
 }
 
 TEST(HandlerExceptions, OfTheHookItselfEndThere) {
-    for (const Throw raise : {ThrowStandard, ThrowNumber, Throw([] { AfxThrowUserException(); })}) {
+    for (const Throw raise : {ThrowStandard, ThrowNumber, Throw([] { throw new Counted; })}) {
         const Hook hook([=](CException*, const MSG*) -> LRESULT {
             raise();
             return 1;
@@ -183,6 +191,7 @@ TEST(HandlerExceptions, OfTheHookItselfEndThere) {
         window.message = WM_APP;
         EXPECT_EQ(window.SendMessage(WM_APP), 0);
         EXPECT_EQ(window.throws, 1);
+        EXPECT_EQ(Counted::alive, 0);
         window.DestroyWindow();
     }
 }

@@ -3,6 +3,7 @@
 // counted. He chooses a projection and, for the one that needs them, a zone and an ellipsoid.
 #include "cuadros/import/ImportarGTOPO30Dlg.h"
 
+#include "Rectangulo.h"
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ImportIds.h"
 
@@ -34,16 +35,6 @@ constexpr int Elipsoide = IDC_IMPORTAR_GTOPO30_ELIPSOIDE;
 
 const Controles Ocultables = {Proyeccion, Huso, 20218, 20219, Elipsoide, 20220};
 const Controles DeUTM = {Huso, Elipsoide};
-
-Cotana::CMaximas<double> Rectangulo(double xMinima, double yMinima, double xMaxima,
-                                    double yMaxima) {
-    Cotana::CMaximas<double> rectangulo;
-    rectangulo.m_Minimo.m_X = xMinima;
-    rectangulo.m_Minimo.m_Y = yMinima;
-    rectangulo.m_Maximo.m_X = xMaxima;
-    rectangulo.m_Maximo.m_Y = yMaxima;
-    return rectangulo;
-}
 
 Textos TextosDe(const kit::Dialog& dialogo, const Angulo& angulo) {
     return {dialogo.text(angulo[0]), dialogo.text(angulo[1]), dialogo.text(angulo[2])};

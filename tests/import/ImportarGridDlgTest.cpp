@@ -3,6 +3,7 @@
 // they are shown.
 #include "cuadros/import/ImportarGridDlg.h"
 
+#include "Rectangulo.h"
 #include "checks/ConDialogo.h"
 #include "cuadros/resources/ImportIds.h"
 
@@ -23,16 +24,6 @@ constexpr int Espaciado = IDC_IMPORTAR_GRID_PASO;
 constexpr int Razon = IDC_IMPORTAR_GRID_RAZON;
 constexpr int PuntosFichero = IDC_IMPORTAR_GRID_PUNTOS_FICHERO;
 constexpr int PuntosImportar = IDC_IMPORTAR_GRID_PUNTOS_IMPORTAR;
-
-Cotana::CMaximas<double> Rectangulo(double xMinima, double yMinima, double xMaxima,
-                                    double yMaxima) {
-    Cotana::CMaximas<double> rectangulo;
-    rectangulo.m_Minimo.m_X = xMinima;
-    rectangulo.m_Minimo.m_Y = yMinima;
-    rectangulo.m_Maximo.m_X = xMaxima;
-    rectangulo.m_Maximo.m_Y = yMaxima;
-    return rectangulo;
-}
 
 class ImportarGridDlg : public ConDialogo {
 protected:
